@@ -1,0 +1,13 @@
+"""ORV Python driver.
+
+One object per device: construct a model class, ``connect`` it over USB,
+Ethernet or Wi-Fi, call its operations (each also exists as an awaitable
+``name_async``), and ``close`` it.  ``pyorv.sim`` starts simulated devices on
+loopback for trying the driver without hardware.
+"""
+
+from . import _pyorv
+from ._pyorv import *  # noqa: F401,F403
+from ._pyorv import __version__  # noqa: F401
+
+__all__ = [name for name in dir(_pyorv) if not name.startswith("__") and name != "_sim"]

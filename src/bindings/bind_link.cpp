@@ -1,0 +1,373 @@
+// The link classes as the host sees them: transports, device classes and the
+// exchange operations every device offers (blocking and awaitable).
+#include <pybind11/functional.h>
+#include <pybind11/stl.h>
+
+#include <mutex>
+#include <vector>
+
+#include "bindings/bindings.hpp"
+#include "bindings/devices.hpp"
+#include "bindings/twin.hpp"
+#include "bindings/value_caster.hpp"
+#include "link/call.hpp"
+#include "link/device.hpp"
+
+namespace orv::py_bind {
+
+namespace {
+
+py::bytes toPy(const Bytes& b) {
+  return py::bytes(reinterpret_cast<const char*>(b.data()), b.size());
+}
+
+py::object streamKeyToPy(const StreamKey& k) {
+  if (k.arity == 1) return py::int_(k.cmd);
+  if (k.arity == 2) return py::make_tuple(k.cmd, k.port);
+  return py::make_tuple(k.cmd, k.port, k.cs);
+}
+
+StreamKey streamKeyFromPy(py::handle h) {
+  if (py::isinstance<py::int_>(h)) return StreamKey::one(h.cast<int>());
+  auto t = h.cast<py::tuple>();
+  if (t.size() == 2) return StreamKey::pair(t[0].cast<int>(), t[1].cast<int>());
+  if (t.size() == 3) return StreamKey::triple(t[0].cast<int>(), t[1].cast<int>(), t[2].cast<int>());
+  throw py::key_error("a stream key is an int, (cmd, port) or (cmd, port, cs)");
+}
+
+py::list flatList(const Bytes& b) {
+  py::list out(b.size());
+  for (size_t i = 0; i < b.size(); ++i) out[i] = py::int_(b[i]);
+  return out;
+}
+
+std::set<Bytes> noGil(std::function<std::set<Bytes>()> f) {
+  py::gil_scoped_release r;
+  return f();
+}
+
+py::set toPySet(const std::set<Bytes>& s) {
+  py::set out;
+  for (const auto& b : s) out.add(toPy(b));
+  return out;
+}
+
+}  // namespace
+
+// ---- live devices: closed at interpreter exit ------------------------------------
+
+namespace {
+std::mutex g_live_m;
+std::vector<std::weak_ptr<Device>>& live() {
+  static auto* v = new std::vector<std::weak_ptr<Device>>();
+  return *v;
+}
+}  // namespace
+
+void trackDevice(const std::shared_ptr<Device>& d) {
+  std::lock_guard lk(g_live_m);
+  auto& v = live();
+  std::erase_if(v, [](const std::weak_ptr<Device>& w) { return w.expired(); });
+  v.push_back(d);
+}
+
+void closeAllDevices() {
+  std::vector<std::shared_ptr<Device>> open;
+  {
+    std::lock_guard lk(g_live_m);
+    for (auto& w : live())
+      if (auto d = w.lock()) open.push_back(d);
+    live().clear();
+  }
+  py::gil_scoped_release r;
+  for (auto& d : open) {
+    try {
+      d->close(false);
+    } catch (const std::exception&) {
+      // A link that fails to shut down cleanly is torn down by the destructor.
+    }
+  }
+}
+
+// ---- binding -----------------------------------------------------------------
+
+void bindLink(py::module_& m) {
+  // Transports.
+  py::class_<Client, std::shared_ptr<Client>>(m, "Client")
+      .def_property_readonly("stream", [](Client& c) { return toPy(c.splitter().stream()); })
+      .def_property_readonly("last_index", [](Client& c) { return c.splitter().lastIndex(); })
+      .def("_splitPacket",
+           [](Client& c, const Value& more) {
+             // Appends bytes to the stream and splits it (the receive thread's step).
+             py::list out;
+             for (auto& p : c.splitter().feed(more.toBytes()))
+               out.append(py::make_tuple(p.cmd, toPy(p.data)));
+             return out;
+           },
+           py::arg("data") = Bytes{})
+      .def("recvAndSplitPacket",
+           [](Client& c, size_t length) {
+             std::vector<RawPacket> pk;
+             {
+               py::gil_scoped_release r;
+               pk = c.recvAndSplitPacket(length);
+             }
+             py::list out;
+             for (auto& p : pk) out.append(py::make_list(p.cmd, toPy(p.data)));
+             return out;
+           })
+      .def("recvPacket",
+           [](Client& c, size_t length) {
+             Bytes b;
+             {
+               py::gil_scoped_release r;
+               b = c.recvPacket(length);
+             }
+             return toPy(b);
+           })
+      .def("sendPacket", [](Client& c, const Value& packet) {
+        Bytes b = packet.toBytes();
+        py::gil_scoped_release r;
+        c.sendPacket(b);
+      });
+  py::class_<NetworkClient, Client, std::shared_ptr<NetworkClient>>(m, "NetworkClient")
+      .def_property_readonly("socket", [](NetworkClient& c) { return c.hasSocket() ? c.fd() : 0; })
+      .def("disconnect", &NetworkClient::disconnect, py::call_guard<py::gil_scoped_release>())
+      .def("setTimeout", &NetworkClient::setTimeout, py::arg("timeout") = py::none());
+  py::class_<TCPClient, NetworkClient, std::shared_ptr<TCPClient>>(m, "TCPClient")
+      .def(py::init<>())
+      .def("connect", &TCPClient::connect, py::arg("ip_addr"), py::arg("port"),
+           py::call_guard<py::gil_scoped_release>());
+  py::class_<UDPClient, NetworkClient, std::shared_ptr<UDPClient>>(m, "UDPClient")
+      .def(py::init<>())
+      .def("bind", &UDPClient::bind, py::arg("ip_addr"), py::arg("port"),
+           py::call_guard<py::gil_scoped_release>())
+      .def("sendBcstPacket",
+           [](UDPClient& c, const Value& packet) {
+             Bytes b = packet.toBytes();
+             py::gil_scoped_release r;
+             c.sendBcstPacket(b);
+           })
+      .def("setBroadcastTarget", &UDPClient::setBroadcastTarget, py::arg("host"),
+           py::arg("port") = UDP_SEND_PORT)
+      .def_property_readonly("broadcast_target", &UDPClient::broadcastTarget);
+  py::class_<USBClient, Client, std::shared_ptr<USBClient>>(m, "USBClient")
+      .def(py::init<const std::string&>(), py::arg("serial_num") = "default",
+           py::call_guard<py::gil_scoped_release>())
+      .def("takeSerialNumber", &USBClient::takeSerialNumber)
+      .def("takeProductName", &USBClient::takeProductName);
+
+  // A stream queue of data_pool_strm.
+  py::class_<StreamQueue, std::shared_ptr<StreamQueue>>(m, "StreamQueue")
+      .def("qsize", &StreamQueue::size)
+      .def("empty", [](StreamQueue& q) { return q.size() == 0; })
+      .def("put", [](StreamQueue& q, const Value& item) { q.push(item.toBytes()); })
+      .def("get_nowait", [](StreamQueue& q) {
+        auto item = q.tryPop();
+        if (!item) throw py::index_error("the stream queue is empty");
+        return toPy(*item);
+      });
+
+  // Devices.
+  auto dev = py::class_<Device, std::shared_ptr<Device>>(m, "Device");
+  dev.def_property_readonly("killed", &Device::killed)
+      .def("_getDeviceName", &Device::deviceName)
+      .def_property_readonly("data_pool_echo",
+                             [](Device& d) {
+                               py::dict out;
+                               for (auto& [k, v] : d.echoPool().snapshot()) out[py::int_(k)] = toPy(v);
+                               return out;
+                             })
+      .def_property_readonly("data_pool_strm",
+                             [](Device& d) {
+                               py::dict out;
+                               for (auto& k : d.streamPool().keys())
+                                 out[streamKeyToPy(k)] = d.streamPool().get(k);
+                               return out;
+                             })
+      .def("_streamQueue",
+           [](Device& d, py::handle key) { return d.streamPool().get(streamKeyFromPy(key)); },
+           py::arg("key"))
+      .def("_broadcastAnswers",
+           [](Device& d, int cmd) { return toPySet(d.bcstPool().get(cmd)); }, py::arg("cmd"))
+      .def("_checkCommandType",
+           [](Device&, int cmd, const Value& data) {
+             Bytes b = data.toBytes();
+             return cmdTypeWord(Device::checkCommandType(cmd, b));
+           },
+           py::arg("cmd"), py::arg("data"))
+      .def("_putToDataPool",
+           [](Device& d, int cmd, const Value& data) { d.putToDataPool(cmd, data.toBytes()); },
+           py::arg("cmd"), py::arg("data"))
+      .def("_preparePacket",
+           [](Device&, int cmd, const Value& data_out) {
+             auto ints = data_out.toIntList();
+             return flatList(preparePacket(cmd, ints));
+           },
+           py::arg("cmd"), py::arg("data_out") = Value::list({}))
+      .def("_aliveThreads", &Device::aliveThreads)
+      .def("__enter__", [](py::object self) { return self; })
+      .def("__exit__",
+           [](Device& d, py::args) {
+             py::gil_scoped_release r;
+             d.close();
+           })
+      // The exchange, blocking.
+      .def("_sendPacketWithoutReply",
+           [](Device& d, int cmd, const Value& data_out) {
+             Bytes b = data_out.toBytes();
+             py::gil_scoped_release r;
+             d.sendPacketWithoutReply(cmd, b);
+           },
+           py::arg("cmd"), py::arg("data_out"))
+      .def("_echoPacket",
+           [](Device& d, int cmd, const Value& data_out, double timeout) {
+             Bytes b = data_out.toBytes(), out;
+             {
+               py::gil_scoped_release r;
+               out = d.echoPacket(cmd, b, timeout);
+             }
+             return toPy(out);
+           },
+           py::arg("cmd"), py::arg("data_out"), py::arg("timeout"))
+      .def("_echoPacketWithRetry",
+           [](Device& d, int cmd, const Value& data_out, double timeout) {
+             Bytes b = data_out.toBytes(), out;
+             {
+               py::gil_scoped_release r;
+               out = d.echoPacketWithRetry(cmd, b, timeout);
+             }
+             return toPy(out);
+           },
+           py::arg("cmd"), py::arg("data_out"), py::arg("timeout") = PACKET_TIMEOUT)
+      .def("_getReplyFromPool",
+           [](Device& d, int64_t cmd, double timeout) {
+             Bytes out;
+             {
+               py::gil_scoped_release r;
+               out = d.getReplyFromPool(cmd, timeout);
+             }
+             return toPy(out);
+           },
+           py::arg("cmd"), py::arg("timeout"))
+      .def("_broadcastPacket",
+           [](Device& d, int cmd, const Value& data_out) {
+             Bytes b = data_out.toBytes();
+             return toPySet(noGil([&] { return d.broadcastPacket(cmd, b); }));
+           },
+           py::arg("cmd"), py::arg("data_out"))
+      .def("_getStreamingFromPool",
+           [](Device& d, StreamQueue& q, int64_t num_samples, double delay) {
+             Bytes out;
+             {
+               py::gil_scoped_release r;
+               out = d.getStreamingFromPool(q, num_samples, delay);
+             }
+             return flatList(out);
+           },
+           py::arg("queue_"), py::arg("num_samples"), py::arg("delay"))
+      // The exchange, awaitable.
+      .def("_sendPacketWithoutReply_async",
+           [](Device& d, int cmd, const Value& data_out) {
+             Bytes b = data_out.toBytes();
+             {
+               py::gil_scoped_release r;
+               d.sendPacketWithoutReply(cmd, b);
+             }
+             return doneFuture(py::none());
+           },
+           py::arg("cmd"), py::arg("data_out"))
+      .def("_echoPacket_async",
+           [](py::object self, int cmd, const Value& data_out, double timeout) {
+             Device& d = self.cast<Device&>();
+             return startAwaitable(self, [&d, cmd, b = data_out.toBytes(), timeout](CancelToken* tok) {
+               auto out = d.echoPacketAsync(cmd, b, timeout, tok);
+               return std::function<py::object()>([out] {
+                 return out ? py::object(toPy(*out)) : py::object(py::none());
+               });
+             });
+           },
+           py::arg("cmd"), py::arg("data_out"), py::arg("timeout") = PACKET_TIMEOUT)
+      .def("_echoPacketWithRetry_async",
+           [](py::object self, int cmd, const Value& data_out, int num_retries, double timeout) {
+             Device& d = self.cast<Device&>();
+             return startAwaitable(
+                 self, [&d, cmd, b = data_out.toBytes(), num_retries, timeout](CancelToken* tok) {
+                   auto out = d.echoPacketWithRetryAsync(cmd, b, num_retries, timeout, tok);
+                   return std::function<py::object()>([out] { return py::object(toPy(out)); });
+                 });
+           },
+           py::arg("cmd"), py::arg("data_out"), py::arg("num_retries") = NUM_RETRIES,
+           py::arg("timeout") = PACKET_TIMEOUT)
+      .def("_getReplyFromPool_async",
+           [](py::object self, int64_t cmd) {
+             Device& d = self.cast<Device&>();
+             return startAwaitable(self, [&d, cmd](CancelToken* tok) {
+               auto out = d.getReplyFromPoolAsync(cmd, tok);
+               return std::function<py::object()>([out] { return py::object(toPy(out)); });
+             });
+           },
+           py::arg("cmd"))
+      .def("_broadcastPacket_async",
+           [](py::object self, int cmd, const Value& data_out) {
+             Device& d = self.cast<Device&>();
+             return startAwaitable(self, [&d, cmd, b = data_out.toBytes()](CancelToken* tok) {
+               auto out = d.broadcastPacket(cmd, b, tok);
+               return std::function<py::object()>([out] { return py::object(toPySet(out)); });
+             });
+           },
+           py::arg("cmd"), py::arg("data_out"))
+      .def("_getStreamingFromPool_async",
+           [](Device& d, StreamQueue& q, int64_t num_samples, double /*delay*/) {
+             return doneFuture(flatList(d.getStreamingFromPoolAsync(q, num_samples)));
+           },
+           py::arg("queue_"), py::arg("num_samples"), py::arg("delay"));
+
+  bindDeviceClass<USBDevice, Device>(m, "USBDevice")
+      .def("connect", &USBDevice::connect, py::arg("serial_num") = "default",
+           py::arg("verbose") = true, py::call_guard<py::gil_scoped_release>())
+      .def("disconnect", &USBDevice::disconnect, py::arg("verbose") = true,
+           py::call_guard<py::gil_scoped_release>())
+      .def("close", &USBDevice::close, py::arg("verbose") = true,
+           py::call_guard<py::gil_scoped_release>())
+      .def_property_readonly("connect_status_cmd", &USBDevice::connectStatusCmd)
+      .def_property_readonly("serial_num", &USBDevice::serialNum)
+      .def_property_readonly("client_cmd", &USBDevice::clientCmd);
+
+  bindDeviceClass<NetworkDevice, Device>(m, "NetworkDevice")
+      .def("connect", &NetworkDevice::connect, py::arg("ip_addr") = "192.168.1.110",
+           py::arg("port") = TCP_CMD_PORT, py::arg("verbose") = true,
+           py::call_guard<py::gil_scoped_release>())
+      .def("disconnect", &NetworkDevice::disconnect, py::arg("verbose") = true,
+           py::call_guard<py::gil_scoped_release>())
+      .def("close", &NetworkDevice::close, py::arg("verbose") = true,
+           py::call_guard<py::gil_scoped_release>())
+      .def_property_readonly("connect_status_cmd", &NetworkDevice::connectStatusCmd)
+      .def_property_readonly("ip_addr", &NetworkDevice::ipAddr)
+      .def_property_readonly("client_cmd", &NetworkDevice::clientCmd);
+
+  bindDeviceClass<ETHDevice, NetworkDevice>(m, "ETHDevice");
+
+  bindDeviceClass<WifiDevice, NetworkDevice>(m, "WifiDevice")
+      .def("connect", &WifiDevice::connect, py::arg("ip") = "192.168.5.79",
+           py::arg("port1") = TCP_DATA_PORT, py::arg("port2") = TCP_CMD_PORT,
+           py::arg("verbose") = true, py::call_guard<py::gil_scoped_release>())
+      .def("disconnect", &WifiDevice::disconnect, py::arg("verbose") = true,
+           py::call_guard<py::gil_scoped_release>())
+      .def("close", &WifiDevice::close, py::arg("verbose") = true,
+           py::call_guard<py::gil_scoped_release>())
+      .def_property_readonly("connect_status_data", &WifiDevice::connectStatusData)
+      .def_property_readonly("client_data", &WifiDevice::clientData);
+
+  bindDeviceClass<BroadcastDevice, Device>(m, "BroadcastDevice", true)
+      .def("connect", &BroadcastDevice::connect, py::arg("verbose") = true,
+           py::call_guard<py::gil_scoped_release>())
+      .def("disconnect", &BroadcastDevice::disconnect, py::arg("verbose") = true,
+           py::call_guard<py::gil_scoped_release>())
+      .def("close", &BroadcastDevice::close, py::arg("verbose") = true,
+           py::call_guard<py::gil_scoped_release>())
+      .def_property_readonly("connect_status_udp", &BroadcastDevice::connectStatusUdp)
+      .def_property_readonly("client_udp", &BroadcastDevice::clientUdp);
+}
+
+}  // namespace orv::py_bind

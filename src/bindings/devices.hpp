@@ -1,0 +1,65 @@
+// Binding a device class: its constructor makes the object with a holder
+// whose deleter drops the GIL (the destructor joins the receive threads), and
+// registers it to be closed at interpreter exit.
+#pragma once
+
+#include <pybind11/pybind11.h>
+#include <pybind11/stl.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "bindings/bindings.hpp"
+#include "link/device.hpp"
+
+namespace orv::py_bind {
+
+void trackDevice(const std::shared_ptr<Device>& d);
+void closeAllDevices();
+
+template <class T>
+std::shared_ptr<T> makeDevice(bool verbose, const char* class_name) {
+  std::shared_ptr<T> p(new T(verbose, class_name), [](T* t) {
+    if (Py_IsInitialized() && PyGILState_Check()) {
+      py::gil_scoped_release r;
+      delete t;
+    } else {
+      delete t;
+    }
+  });
+  trackDevice(p);
+  return p;
+}
+
+// A device class whose constructor is T(verbose=True).  With `broadcast` the
+// constructor also takes broadcast_addr ("host" or "host:port") for the
+// discovery target.
+template <class T, class Base>
+py::class_<T, Base, std::shared_ptr<T>> bindDeviceClass(py::module_& m, const char* name,
+                                                        bool broadcast = false) {
+  py::class_<T, Base, std::shared_ptr<T>> cls(m, name);
+  std::string cname = name;
+  if constexpr (std::is_base_of_v<BroadcastDevice, T>) {
+    cls.def(py::init([cname](bool verbose, std::optional<std::string> target) {
+              auto d = makeDevice<T>(verbose, cname.c_str());
+              if (target) {
+                auto colon = target->rfind(':');
+                if (colon == std::string::npos)
+                  d->clientUdp()->setBroadcastTarget(*target, UDP_SEND_PORT);
+                else
+                  d->clientUdp()->setBroadcastTarget(target->substr(0, colon),
+                                                     std::stoi(target->substr(colon + 1)));
+              }
+              return d;
+            }),
+            py::arg("verbose") = true, py::arg("broadcast_addr") = py::none());
+  } else {
+    (void)broadcast;
+    cls.def(py::init([cname](bool verbose) { return makeDevice<T>(verbose, cname.c_str()); }),
+            py::arg("verbose") = true);
+  }
+  return cls;
+}
+
+}  // namespace orv::py_bind

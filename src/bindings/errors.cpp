@@ -1,0 +1,159 @@
+// The host's error and warning classes, made from the error table, and the
+// translation of C++ exceptions into them.
+#include <pybind11/stl.h>
+
+#include <iostream>
+#include <vector>
+
+#include "bindings/bindings.hpp"
+#include "link/device.hpp"
+#include "link/usb_backend.hpp"
+
+namespace orv::py_bind {
+namespace {
+
+std::vector<py::object>& classes() {
+  static auto* v = new std::vector<py::object>();  // lives as long as the process
+  return *v;
+}
+
+py::object g_error_base;
+py::object g_warning_base;
+
+// Error(code, msg, *args, **kwargs)
+void errorInit(py::object self, py::object code, py::object msg, py::args args, py::kwargs) {
+  py::module_::import("builtins").attr("Exception").attr("__init__")(self, code, msg, *args);
+  self.attr("code") = code;
+  self.attr("msg") = msg;
+}
+
+std::string errorStr(py::object self) {
+  return py::str("Error {:d}: {}").attr("format")(self.attr("code"), self.attr("msg")).cast<std::string>();
+}
+
+// ORVWarning(code, msg, *args, **kwargs): reports itself unless silent.
+void warningInit(py::object self, py::object code, py::object msg, py::args args,
+                 py::kwargs kwargs) {
+  py::module_::import("builtins").attr("UserWarning").attr("__init__")(self, code, msg, *args);
+  self.attr("code") = code;
+  self.attr("msg") = msg;
+  bool silent = kwargs.contains("silent") && py::bool_(kwargs["silent"]);
+  if (silent) return;
+  // The constructor has no frame of its own here, so the whole stack is the
+  // caller's.
+  py::list stack = py::module_::import("traceback").attr("format_stack")();
+  py::print(py::str("\n").attr("join")(stack));
+  py::str text = py::str("Warning {:d}: {}").attr("format")(code, msg);
+  py::module_::import("warnings").attr("warn")(text, self.attr("__class__"), 2);
+}
+
+std::string warningStr(py::object self) {
+  return py::str("Warning {:d}: {}").attr("format")(self.attr("code"), self.attr("msg")).cast<std::string>();
+}
+
+py::object makeClass(const char* name, py::object base, py::module_& m) {
+  py::dict ns;
+  ns["__module__"] = m.attr("__name__");
+  return py::reinterpret_borrow<py::object>((PyObject*)&PyType_Type)(name, py::make_tuple(base), ns);
+}
+
+}  // namespace
+
+py::object errorClass(ErrorId id) { return classes().at(static_cast<size_t>(id)); }
+
+void bindErrors(py::module_& m) {
+  py::object exc = py::module_::import("builtins").attr("Exception");
+  py::object uw = py::module_::import("builtins").attr("UserWarning");
+
+  g_error_base = makeClass("Error", exc, m);
+  g_error_base.attr("__init__") = py::cpp_function(errorInit, py::is_method(g_error_base),
+                                                   py::arg("code"), py::arg("msg"));
+  g_error_base.attr("__str__") = py::cpp_function(errorStr, py::is_method(g_error_base));
+  m.attr("Error") = g_error_base;
+
+  g_warning_base = makeClass("ORVWarning", uw, m);
+  g_warning_base.attr("__init__") = py::cpp_function(warningInit, py::is_method(g_warning_base),
+                                                     py::arg("code"), py::arg("msg"));
+  g_warning_base.attr("__str__") = py::cpp_function(warningStr, py::is_method(g_warning_base));
+  m.attr("ORVWarning") = g_warning_base;
+
+  size_t n = 0;
+  const ErrorInfo* table = errorTable(&n);
+  classes().reserve(n);
+  for (size_t i = 0; i < n; ++i) {
+    const ErrorInfo& row = table[i];
+    py::object base = row.kind == ErrorKind::Warning ? g_warning_base : g_error_base;
+    std::string name(row.name);
+    py::object cls = makeClass(name.c_str(), base, m);
+    const int code = row.code;
+    const std::string message(row.message);
+    // Name(msg=None, *args, **kwargs): the class's own code, its message by default.
+    cls.attr("__init__") = py::cpp_function(
+        [base, code, message](py::object self, py::object msg, py::args args, py::kwargs kwargs) {
+          if (msg.is_none()) msg = py::str(message);
+          base.attr("__init__")(self, code, msg, *args, **kwargs);
+        },
+        py::is_method(cls), py::arg("msg") = py::none());
+    cls.attr("code") = code;
+    cls.attr("default_message") = message;
+    m.attr(name.c_str()) = cls;
+    if (!row.constant.empty()) m.attr(std::string(row.constant).c_str()) = code;
+    classes().push_back(cls);
+  }
+
+  // printGenericError(err): "<ClassName>: <text>"
+  m.def("printGenericError", [](py::object err) {
+    py::print(py::str(err.get_type().attr("__name__")) + py::str(":"), err);
+  });
+  m.def("checkFirmwareError", [](py::object status) -> int {
+    // A status that is not an integer matches no row.
+    if (!py::isinstance<py::int_>(status)) throw Error(ErrorId::FirmwareOtherError);
+    return checkFirmwareError(status.cast<int64_t>());
+  });
+
+  py::register_exception_translator([](std::exception_ptr p) {
+    if (!p) return;
+    py::object inst = exceptionObject(p);
+    if (inst.is_none()) std::rethrow_exception(p);
+    PyErr_SetObject(reinterpret_cast<PyObject*>(Py_TYPE(inst.ptr())), inst.ptr());
+  });
+}
+
+py::object exceptionObject(std::exception_ptr p) {
+  auto builtin = [](const char* name) { return py::module_::import("builtins").attr(name); };
+  try {
+    std::rethrow_exception(p);
+  } catch (const Error& e) {
+    py::object cls = errorClass(e.id());
+    if (e.isWarning()) {
+      py::dict kw;
+      kw["silent"] = true;  // its report was made when the C++ side made it
+      return cls(e.msg(), **kw);
+    }
+    return cls(e.msg());
+  } catch (const py::error_already_set& e) {
+    return e.value();
+  } catch (const TypeError& e) {
+    return builtin("TypeError")(e.what());
+  } catch (const ValueError& e) {
+    return builtin("ValueError")(e.what());
+  } catch (const IndexError& e) {
+    return builtin("IndexError")(e.what());
+  } catch (const OSError& e) {
+    return builtin("OSError")(e.err(), e.what());
+  } catch (const RuntimeError& e) {
+    return builtin("RuntimeError")(e.what());
+  } catch (const AsyncTimeout&) {
+    return py::module_::import("asyncio").attr("TimeoutError")();
+  } catch (const Cancelled&) {
+    return py::module_::import("asyncio").attr("CancelledError")();
+  } catch (const usb::Timeout& e) {
+    return builtin("TimeoutError")(e.what());
+  } catch (const usb::Failure& e) {
+    return builtin("OSError")(e.what());
+  } catch (...) {
+    return py::none();
+  }
+}
+
+}  // namespace orv::py_bind

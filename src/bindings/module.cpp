@@ -1,0 +1,103 @@
+// pyorv._pyorv: the extension entry.
+#include <pybind11/stl.h>
+
+#include <atomic>
+#include <iostream>
+
+#include "bindings/bindings.hpp"
+#include "bindings/devices.hpp"
+#include "bindings/twin.hpp"
+#include "link/constants.hpp"
+#include "link/report.hpp"
+
+namespace orv::py_bind {
+
+namespace {
+std::atomic<bool> g_alive{false};
+
+void pyPrint(const std::string& line) {
+  if (!g_alive.load()) {
+    std::cout << line << std::endl;
+    return;
+  }
+  py::gil_scoped_acquire gil;
+  try {
+    py::print(line, py::arg("flush") = true);
+  } catch (py::error_already_set& e) {
+    e.discard_as_unraisable("pyorv print");
+  }
+}
+
+void pyWarning(ErrorId id, const std::string& msg) {
+  if (!g_alive.load()) {
+    std::cerr << "Warning " << errorInfo(id).code << ": " << msg << std::endl;
+    return;
+  }
+  py::gil_scoped_acquire gil;
+  try {
+    errorClass(id)(msg);  // the host class reports itself when made
+  } catch (py::error_already_set& e) {
+    e.discard_as_unraisable("pyorv warning");
+  }
+}
+}  // namespace
+
+bool pythonAlive() { return g_alive.load(); }
+void setPythonAlive(bool alive) { g_alive.store(alive); }
+
+void installHooks(py::module_& m) {
+  report::setHooks({&pyPrint, &pyWarning});
+  setPythonAlive(true);
+  // At exit: close what is still open, finish the awaitable workers, then
+  // stop entering the interpreter from other threads.
+  m.def("_shutdown", [] {
+    closeAllDevices();
+    {
+      py::gil_scoped_release r;
+      Executor::instance().shutdown();
+    }
+    setPythonAlive(false);
+    report::setHooks({});
+  });
+  py::module_::import("atexit").attr("register")(m.attr("_shutdown"));
+}
+
+void bindConstants(py::module_& m) {
+#define ORV_CONST(name) m.attr(#name) = name
+  ORV_CONST(CMD_STX); ORV_CONST(CMD_CR); ORV_CONST(CMD_LF); ORV_CONST(CMD_INDEX);
+  ORV_CONST(CMD_STX_2); ORV_CONST(CMD_CR_2); ORV_CONST(CMD_LF_2); ORV_CONST(CMD_INDEX_2);
+  ORV_CONST(USB_VID); ORV_CONST(USB_PID); ORV_CONST(USB_EP_IN); ORV_CONST(USB_EP_OUT);
+  ORV_CONST(USB_PKT_SIZE); ORV_CONST(USB_61E_RECEIVE_BYTE); ORV_CONST(USB_61E_RECEIVE_TIMEOUT);
+  ORV_CONST(USB_61E_RECEIVE_TOTAL_BYTES); ORV_CONST(USB_61E_PLUS_VID); ORV_CONST(USB_61E_PLUS_PID);
+  ORV_CONST(TCP_CMD_PORT); ORV_CONST(TCP_DATA_PORT); ORV_CONST(TCP_PKT_LENGTH_MAX);
+  ORV_CONST(TCP_DATA_LENGTH_MAX); ORV_CONST(UDP_SEND_PORT); ORV_CONST(UDP_RECV_PORT);
+  ORV_CONST(UDP_PKT_LENGTH_MAX); ORV_CONST(NUM_RETRIES); ORV_CONST(NUM_BCST_RETRIES);
+  ORV_CONST(QUEUE_SIZE_MAX); ORV_CONST(QUEUE_TIMEOUT);
+  ORV_CONST(GET_DRIVER_INFO); ORV_CONST(MOTION); ORV_CONST(OPEN_CAN); ORV_CONST(START_CAN);
+  ORV_CONST(START_UART_READING); ORV_CONST(START_AI_STREAMING);
+  ORV_CONST(START_AI_STREAMING_VARIABLE); ORV_CONST(START_AO_STREAMING);
+  ORV_CONST(START_MOTION_MONITORING); ORV_CONST(AHRS_START); ORV_CONST(GET_DEVICE_INFO);
+  ORV_CONST(CHECK_MAC_AND_SET_IP); ORV_CONST(CHECK_MAC_AND_REBOOT);
+#undef ORV_CONST
+  // Times that the host sees as seconds: whole numbers stay ints.
+  m.attr("CONNECTION_TIMEOUT") = 5;
+  m.attr("ECHO_DELAY") = ECHO_DELAY;
+  m.attr("PACKET_TIMEOUT") = 5;
+  m.attr("RETRY_TIMEOUT") = 1;
+  m.attr("STREAMING_CMD_LIST") = py::cast(std::vector<int>(STREAMING_CMD_LIST.begin(), STREAMING_CMD_LIST.end()));
+  m.attr("BROADCAST_CMD_LIST") = py::cast(std::vector<int>(BROADCAST_CMD_LIST.begin(), BROADCAST_CMD_LIST.end()));
+}
+
+}  // namespace orv::py_bind
+
+PYBIND11_MODULE(_pyorv, m) {
+  using namespace orv::py_bind;
+  m.doc() = "ORV Python driver: the compiled core";
+  m.attr("__version__") = ORV_VERSION;
+  bindConstants(m);
+  bindErrors(m);
+  bindConvert(m);
+  bindLink(m);
+  bindSim(m);
+  installHooks(m);
+}

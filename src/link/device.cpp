@@ -1,0 +1,356 @@
+#include "link/device.hpp"
+
+#include <algorithm>
+#include <chrono>
+
+#include "link/error.hpp"
+#include "link/report.hpp"
+
+namespace orv {
+
+using namespace std::chrono_literals;
+
+namespace {
+Clock::duration seconds(double s) {
+  return std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(s));
+}
+}  // namespace
+
+// ---- Gate --------------------------------------------------------------------
+
+void Gate::close() {
+  std::lock_guard lk(m_);
+  open_ = false;
+}
+
+void Gate::open() {
+  {
+    std::lock_guard lk(m_);
+    if (open_) throw RuntimeError("release unlocked lock");
+    open_ = true;
+  }
+  cv_.notify_all();
+}
+
+void Gate::forceOpen() {
+  {
+    std::lock_guard lk(m_);
+    open_ = true;
+  }
+  cv_.notify_all();
+}
+
+bool Gate::isOpen() const {
+  std::lock_guard lk(m_);
+  return open_;
+}
+
+void Gate::pass(const std::atomic<bool>& stop) {
+  std::unique_lock lk(m_);
+  cv_.wait(lk, [&] { return open_ || stop.load(); });
+}
+
+// ---- Link --------------------------------------------------------------------
+
+std::shared_ptr<Client> Link::client() const {
+  std::lock_guard lk(m_);
+  return client_;
+}
+
+void Link::setClient(std::shared_ptr<Client> c) {
+  std::lock_guard lk(m_);
+  client_ = std::move(c);
+}
+
+// ---- Device: pools and routing -------------------------------------------------
+
+Device::Device(std::string class_name) : class_name_(std::move(class_name)) {}
+
+Device::~Device() = default;
+
+std::string Device::deviceName() const { return labelFor(class_name_); }
+
+CmdType Device::checkCommandType(int cmd, std::span<const uint8_t> data) {
+  return orv::checkCommandType(cmd, data);
+}
+
+int64_t Device::echoKey(int cmd, std::span<const uint8_t> data) {
+  if (cmd != MOTION) return cmd;
+  if (data.size() < 3) throw IndexError("index out of range: a MOTION packet needs 3 data bytes");
+  // [axis, connector, motion_cmd, MOTION] read as a signed big-endian word.
+  const uint32_t u = (uint32_t{data[2]} << 24) | (uint32_t{data[0]} << 16) |
+                     (uint32_t{data[1]} << 8) | uint32_t{MOTION};
+  return static_cast<int32_t>(u);
+}
+
+void Device::putToDataPool(int cmd, const Bytes& data) {
+  const CmdType type = checkCommandType(cmd, data);
+  const int64_t key = echoKey(cmd, data);
+  switch (type) {
+    case CmdType::Streaming: {
+      auto need = [&](size_t n) {
+        if (data.size() < n) throw IndexError("index out of range: stream record too short");
+      };
+      auto from = [&](size_t n) { return Bytes(data.begin() + std::min(n, data.size()), data.end()); };
+      if (cmd == START_AI_STREAMING) {
+        need(2);
+        strm_.get(StreamKey::triple(cmd, data[0], data[1]))->push(from(2));
+      } else if (cmd == START_AI_STREAMING_VARIABLE) {
+        strm_.get(StreamKey::triple(cmd, 0, 0))->push(from(2));
+      } else if (cmd == START_CAN) {
+        strm_.get(StreamKey::one(cmd))->push(from(2));
+      } else if (cmd == AHRS_START) {
+        strm_.get(StreamKey::one(cmd))->push(from(1));
+      } else if (cmd == START_UART_READING) {
+        need(1);
+        strm_.get(StreamKey::pair(cmd, data[0]))->push(from(2));
+      } else {
+        strm_.get(StreamKey::one(static_cast<int>(key)))->push(data);
+      }
+      break;
+    }
+    case CmdType::Echo:
+      echo_.put(key, data);
+      break;
+    case CmdType::Broadcast:
+      if (!data.empty() && data[0] == 1) bcst_.add(cmd, Bytes(data.begin() + 1, data.end()));
+      break;
+    case CmdType::Ignore:
+      break;
+  }
+}
+
+// ---- Device: threads -----------------------------------------------------------
+
+void Device::say(bool verbose, const std::string& text) const {
+  if (verbose) report::print(text);
+}
+
+bool Device::closeBase() {
+  if (killed_.exchange(true)) return false;
+  return true;
+}
+
+void Device::startThread(Link& link) {
+  link.alive = true;
+  link.thread = std::thread([this, &link] { recvLoop(link); });
+}
+
+void Device::recvLoop(Link& link) {
+  std::vector<RawPacket> packets;
+  while (!killed_.load()) {
+    link.gate.pass(killed_);
+    std::shared_ptr<Client> client = link.client();
+    bool pause = false;
+    try {
+      if (!client) {
+        // The transport is gone: the link was dropped under the thread.
+        if (link.failures == Link::Failures::ReportUsb && !killed_.load())
+          report::print("AttributeError: the USB link has no client");
+        pause = true;
+      } else {
+        Bytes raw = client->recvPacket(link.read_size);
+        if (raw.empty()) {
+          pause = true;  // a closed peer answers every read at once
+        } else {
+          packets.clear();
+          client->splitter().feed(raw, packets);
+          for (const auto& p : packets) {
+            try {
+              putToDataPool(p.cmd, p.data);
+            } catch (const std::exception& e) {
+              if (link.failures == Link::Failures::ReportUsb) report::genericError(e);
+            }
+          }
+        }
+      }
+    } catch (const usb::Timeout&) {
+      // An idle USB link: the ordinary state, once per millisecond.
+    } catch (const std::exception& e) {
+      if (link.failures == Link::Failures::ReportUsb && !killed_.load()) report::genericError(e);
+      pause = true;
+    }
+    // A dead link must not spin a core; the pause never delays a live one.
+    if (pause && !killed_.load()) std::this_thread::sleep_for(1ms);
+  }
+  link.alive = false;
+}
+
+void Device::finishClose(std::initializer_list<Link*> links) {
+  echo_.close();
+  strm_.closeAll();
+  for (Link* l : links) {
+    l->gate.forceOpen();
+    if (l->thread.joinable()) {
+      if (l->thread.get_id() == std::this_thread::get_id())
+        l->thread.detach();
+      else
+        l->thread.join();
+    }
+  }
+}
+
+std::vector<std::string> Device::aliveThreads() const {
+  std::vector<std::string> out;
+  for (const Link* l : links_)
+    if (l->alive.load()) out.push_back(l->thread_name);
+  return out;
+}
+
+void Device::registerLink(Link& link) { links_.push_back(&link); }
+
+void Device::stopLinks(std::initializer_list<Link*> links) {
+  killed_.store(true);
+  for (Link* l : links) {
+    if (auto c = std::dynamic_pointer_cast<NetworkClient>(l->client()); c && c->hasSocket()) {
+      try {
+        c->disconnect();
+      } catch (const std::exception&) {
+      }
+    }
+  }
+  finishClose(links);
+}
+
+void Device::throwIfClosed() const {
+  if (killed_.load()) raise(ErrorId::DeviceClosedError);
+}
+
+// ---- Device: the exchange ------------------------------------------------------
+
+void Device::sendPacketWithoutReply(int cmd, std::span<const uint8_t> data_out) {
+  throwIfClosed();
+  Link* link = commandLink();
+  std::shared_ptr<Client> client = link ? link->client() : nullptr;
+  if (!client) raise(ErrorId::LinkNotOpenError);
+  const Bytes packet = preparePacket(cmd, data_out);
+  std::lock_guard lk(link->send_m);
+  client->sendPacket(packet);
+}
+
+namespace {
+[[noreturn]] void waitFailed(EchoPool::WaitResult r) {
+  if (r == EchoPool::WaitResult::Cancelled) throw Cancelled();
+  raise(ErrorId::DeviceClosedError);
+}
+}  // namespace
+
+Bytes Device::getReplyFromPool(int64_t key, double timeout, CancelToken* tok) {
+  // A reply is taken until `timeout`; a missing one is reported one polling
+  // period (a tenth of the timeout) later, as the polling loop always did.
+  if (!(timeout > 0))
+    raise(ErrorId::InputDataNotInRangeError, "The reply timeout must be greater than 0 seconds.");
+  const auto start = Clock::now();
+  Bytes out;
+  auto r = echo_.waitPop(key, start + seconds(timeout), out, tok);
+  if (r == EchoPool::WaitResult::Taken) return out;
+  if (r != EchoPool::WaitResult::TimedOut) waitFailed(r);
+  r = echo_.sleepUntil(start + seconds(timeout * 1.1), tok);
+  if (r != EchoPool::WaitResult::TimedOut) waitFailed(r);
+  raise(ErrorId::ReceivePacketTimeoutError);
+}
+
+Bytes Device::echoPacket(int cmd, std::span<const uint8_t> data_out, double timeout,
+                         CancelToken* tok) {
+  const int64_t key = echoKey(cmd, data_out);
+  sendPacketWithoutReply(cmd, data_out);
+  return getReplyFromPool(key, timeout, tok);
+}
+
+Bytes Device::echoPacketWithRetry(int cmd, std::span<const uint8_t> data_out, double timeout,
+                                  CancelToken* tok) {
+  std::optional<Bytes> value;
+  int count = 0;
+  double timer = 0;
+  const double echo_timeout = timeout / NUM_RETRIES;
+  while (!value && count < NUM_RETRIES && timer < timeout) {
+    if (tok && tok->cancelled()) throw Cancelled();
+    try {
+      value = echoPacket(cmd, data_out, echo_timeout, tok);
+    } catch (const Error& e) {
+      if (e.id() != ErrorId::ReceivePacketTimeoutError) throw;
+      count += 1;
+      timer += echo_timeout;
+    }
+  }
+  if (timer >= timeout) raise(ErrorId::ReceivePacketTimeoutError);
+  if (!value) value = getReplyFromPool(echoKey(cmd, data_out), timeout - timer, tok);
+  return std::move(*value);
+}
+
+std::optional<Bytes> Device::echoPacketAsync(int cmd, std::span<const uint8_t> data_out,
+                                             double timeout, CancelToken* tok) {
+  const int64_t key = echoKey(cmd, data_out);
+  sendPacketWithoutReply(cmd, data_out);
+  Bytes out;
+  auto r = echo_.waitPop(key, Clock::now() + seconds(std::max(timeout, 0.0)), out, tok);
+  if (r == EchoPool::WaitResult::Taken) return out;
+  if (r == EchoPool::WaitResult::TimedOut) return std::nullopt;
+  waitFailed(r);
+}
+
+Bytes Device::getReplyFromPoolAsync(int64_t key, CancelToken* tok) {
+  throwIfClosed();
+  Bytes out;
+  auto r = echo_.waitPop(key, Clock::time_point::max(), out, tok);
+  if (r == EchoPool::WaitResult::Taken) return out;
+  waitFailed(r);
+}
+
+Bytes Device::echoPacketWithRetryAsync(int cmd, std::span<const uint8_t> data_out,
+                                       int num_retries, double timeout, CancelToken* tok) {
+  std::optional<Bytes> value;
+  int count = 0;
+  while (!value && count < num_retries) {
+    if (tok && tok->cancelled()) throw Cancelled();
+    value = echoPacketAsync(cmd, data_out, RETRY_TIMEOUT, tok);
+    count += 1;
+  }
+  if (value) return std::move(*value);
+  const double remaining = std::max(timeout - RETRY_TIMEOUT * count, 0.0);
+  Bytes out;
+  auto r = echo_.waitPop(echoKey(cmd, data_out), Clock::now() + seconds(remaining), out, tok);
+  if (r == EchoPool::WaitResult::Taken) return out;
+  if (r == EchoPool::WaitResult::TimedOut) throw AsyncTimeout();
+  waitFailed(r);
+}
+
+std::set<Bytes> Device::broadcastPacket(int cmd, std::span<const uint8_t> data_out,
+                                        CancelToken* tok) {
+  throwIfClosed();
+  UDPClient* udp = broadcastClient();
+  if (!udp) raise(ErrorId::LinkNotOpenError);
+  bcst_.clear(cmd);
+  const Bytes packet = preparePacket(cmd, data_out);
+  for (int i = 0; i < NUM_BCST_RETRIES; ++i) udp->sendBcstPacket(packet);
+  // Answers are collected by the UDP thread for the whole window.
+  auto r = echo_.sleepUntil(Clock::now() + seconds(PACKET_TIMEOUT), tok);
+  if (r != EchoPool::WaitResult::TimedOut) waitFailed(r);
+  return bcst_.get(cmd);
+}
+
+Bytes Device::getStreamingFromPool(StreamQueue& q, int64_t num_samples, double delay,
+                                   CancelToken* tok) {
+  (void)delay;  // a record wakes the reader at once; no polling period is needed
+  if (num_samples > -1 && !q.waitSize(static_cast<size_t>(num_samples), tok)) {
+    if (tok && tok->cancelled()) throw Cancelled();
+    raise(ErrorId::DeviceClosedError);
+  }
+  return getStreamingFromPoolAsync(q, num_samples);
+}
+
+Bytes Device::getStreamingFromPoolAsync(StreamQueue& q, int64_t num_samples) {
+  const size_t size = q.size();
+  if (size == 0) return {};
+  const size_t loop_times =
+      (num_samples > -1 && static_cast<size_t>(num_samples) < size) ? num_samples : size;
+  Bytes flat;
+  for (size_t i = 0; i < loop_times; ++i) {
+    auto item = q.tryPop();
+    if (!item) break;
+    flat.insert(flat.end(), item->begin(), item->end());
+  }
+  return flat;
+}
+
+}  // namespace orv

@@ -1,0 +1,247 @@
+// A device object: the links to one physical device, one receive thread per
+// link parked by a gate while the link is down, and the three data pools.
+//
+//   Device            pools, routing (_putToDataPool), the exchange operations
+//   USBDevice         one USB link            (client_cmd, recv_cmd_thread)
+//   NetworkDevice     one TCP command link    (client_cmd, recv_cmd_thread)
+//     ETHDevice
+//     WifiDevice      + a TCP data link       (client_data, recv_data_thread)
+//   BroadcastDevice   one UDP receive link    (client_udp, recv_udp_thread)
+//
+// connect/disconnect open and shut a gate; close ends and joins the threads.
+#pragma once
+
+#include <atomic>
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <set>
+#include <span>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "link/constants.hpp"
+#include "link/framing.hpp"
+#include "link/pools.hpp"
+#include "link/transport.hpp"
+
+namespace orv {
+
+// A gate parks a receive thread while its link is down.  It stands for a lock
+// that one thread acquires (closing the gate) and another releases (opening
+// it); opening an open gate is the failure of releasing an unlocked lock.
+class Gate {
+ public:
+  Gate() = default;
+  void close();  // acquire: the gate is closed afterwards
+  void open();   // release: throws orv::RuntimeError if already open
+  void forceOpen();
+  bool isOpen() const;
+  // Waits while the gate is closed; returns at once once `stop` is set.
+  void pass(const std::atomic<bool>& stop);
+
+ private:
+  mutable std::mutex m_;
+  std::condition_variable cv_;
+  bool open_ = false;
+};
+
+class RuntimeError : public std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+// One link of a device: transport, status, gate and receive thread.
+struct Link {
+  enum class Failures { ReportUsb, Silent };
+  std::string thread_name;  // recv_cmd_thread, recv_data_thread, recv_udp_thread
+  size_t read_size = 0;
+  Failures failures = Failures::Silent;
+
+  std::shared_ptr<Client> client() const;
+  void setClient(std::shared_ptr<Client> c);
+
+  std::atomic<bool> status{false};  // connect_status_*
+  Gate gate;
+  std::thread thread;
+  std::atomic<bool> alive{false};
+  std::mutex send_m;  // one packet on the wire at a time
+
+ private:
+  mutable std::mutex m_;
+  std::shared_ptr<Client> client_;
+};
+
+class Device {
+ public:
+  // class_name is the host class of the object; its label names it in messages.
+  explicit Device(std::string class_name);
+  virtual ~Device();
+  Device(const Device&) = delete;
+  Device& operator=(const Device&) = delete;
+
+  const std::string& className() const { return class_name_; }
+  std::string deviceName() const;  // _getDeviceName
+  bool killed() const { return killed_.load(); }
+
+  // Pools.
+  EchoPool& echoPool() { return echo_; }
+  StreamPool& streamPool() { return strm_; }
+  BroadcastPool& bcstPool() { return bcst_; }
+  static CmdType checkCommandType(int cmd, std::span<const uint8_t> data);
+  // Routes one received packet; throws orv::IndexError on a packet too short
+  // for its key bytes (the receive thread handles it).
+  void putToDataPool(int cmd, const Bytes& data);
+  // The echo key of a request: the command, or for MOTION the signed
+  // big-endian value of [axis, connector, motion_cmd, MOTION].
+  static int64_t echoKey(int cmd, std::span<const uint8_t> data);
+
+  // close as the device class defines it; every class ends by joining the
+  // threads it ended.
+  virtual void close(bool verbose = true) = 0;
+
+  // ---- the exchange (blocking) ----
+  void sendPacketWithoutReply(int cmd, std::span<const uint8_t> data_out);
+  Bytes echoPacket(int cmd, std::span<const uint8_t> data_out, double timeout,
+                   CancelToken* tok = nullptr);
+  Bytes getReplyFromPool(int64_t key, double timeout, CancelToken* tok = nullptr);
+  Bytes echoPacketWithRetry(int cmd, std::span<const uint8_t> data_out,
+                            double timeout = PACKET_TIMEOUT, CancelToken* tok = nullptr);
+  std::set<Bytes> broadcastPacket(int cmd, std::span<const uint8_t> data_out,
+                                  CancelToken* tok = nullptr);
+  // Items of a stream queue, flattened; num_samples -1 takes what is there.
+  Bytes getStreamingFromPool(StreamQueue& q, int64_t num_samples, double delay,
+                             CancelToken* tok = nullptr);
+
+  // ---- the exchange (awaitable flavour, run on a worker thread) ----
+  // nullopt when the time ran out.
+  std::optional<Bytes> echoPacketAsync(int cmd, std::span<const uint8_t> data_out,
+                                       double timeout = PACKET_TIMEOUT,
+                                       CancelToken* tok = nullptr);
+  Bytes getReplyFromPoolAsync(int64_t key, CancelToken* tok = nullptr);
+  // Throws AsyncTimeout when the last wait runs out.
+  Bytes echoPacketWithRetryAsync(int cmd, std::span<const uint8_t> data_out,
+                                 int num_retries = NUM_RETRIES, double timeout = PACKET_TIMEOUT,
+                                 CancelToken* tok = nullptr);
+  Bytes getStreamingFromPoolAsync(StreamQueue& q, int64_t num_samples);
+
+  // Names of receive threads still running (for lifecycle checks).
+  std::vector<std::string> aliveThreads() const;
+
+ protected:
+  // The link commands go out on; LinkNotOpenError when there is none.
+  virtual Link* commandLink() { return nullptr; }
+  virtual UDPClient* broadcastClient() { return nullptr; }
+
+  // Device.close at the base: sets killed, prints nothing itself.
+  bool closeBase();
+  void startThread(Link& link);
+  // Wakes every waiter and joins every receive thread (after killed is set
+  // and the gates are open).
+  void finishClose(std::initializer_list<Link*> links);
+  // For destructors: ends and joins the links whatever their state.
+  void stopLinks(std::initializer_list<Link*> links);
+  void registerLink(Link& link);
+  void say(bool verbose, const std::string& text) const;
+
+ private:
+  void recvLoop(Link& link);
+  void throwIfClosed() const;
+
+  std::string class_name_;
+  std::atomic<bool> killed_{false};
+  std::vector<Link*> links_;
+  EchoPool echo_;
+  StreamPool strm_;
+  BroadcastPool bcst_;
+};
+
+class USBDevice : public Device {
+ public:
+  explicit USBDevice(bool verbose = true, std::string class_name = "USBDevice");
+  ~USBDevice() override;
+  void connect(const std::string& serial_num = "default", bool verbose = true);
+  void disconnect(bool verbose = true);
+  void close(bool verbose = true) override;
+
+  bool connectStatusCmd() const { return cmd_.status; }
+  std::optional<std::string> serialNum() const;
+  std::shared_ptr<USBClient> clientCmd() const;
+
+ protected:
+  Link* commandLink() override { return &cmd_; }
+  Link cmd_;
+
+ private:
+  mutable std::mutex m_;
+  std::optional<std::string> serial_num_;
+};
+
+class NetworkDevice : public Device {
+ public:
+  explicit NetworkDevice(bool verbose = true, std::string class_name = "NetworkDevice");
+  ~NetworkDevice() override;
+  void connect(const std::string& ip_addr = "192.168.1.110", int port = TCP_CMD_PORT,
+               bool verbose = true);
+  void disconnect(bool verbose = true);
+  void close(bool verbose = true) override;
+
+  bool connectStatusCmd() const { return cmd_.status; }
+  std::optional<std::string> ipAddr() const;
+  std::shared_ptr<TCPClient> clientCmd() const;
+
+ protected:
+  Link* commandLink() override { return &cmd_; }
+  Link cmd_;
+
+ private:
+  mutable std::mutex m_;
+  std::optional<std::string> ip_addr_;
+};
+
+class ETHDevice : public NetworkDevice {
+ public:
+  explicit ETHDevice(bool verbose = true, std::string class_name = "ETHDevice")
+      : NetworkDevice(verbose, std::move(class_name)) {}
+};
+
+class WifiDevice : public NetworkDevice {
+ public:
+  explicit WifiDevice(bool verbose = true, std::string class_name = "WifiDevice");
+  ~WifiDevice() override;
+  bool connect(const std::string& ip = "192.168.5.79", int port1 = TCP_DATA_PORT,
+               int port2 = TCP_CMD_PORT, bool verbose = true);
+  void disconnect(bool verbose = true);
+  void close(bool verbose = true) override;
+
+  bool connectStatusData() const { return data_.status; }
+  std::shared_ptr<TCPClient> clientData() const;
+
+ private:
+  Link data_;
+};
+
+class BroadcastDevice : public Device {
+ public:
+  explicit BroadcastDevice(bool verbose = true, std::string class_name = "BroadcastDevice");
+  ~BroadcastDevice() override;
+  void connect(bool verbose = true);
+  void disconnect(bool verbose = true);
+  void close(bool verbose = true) override;
+
+  bool connectStatusUdp() const { return udp_.status; }
+  std::shared_ptr<UDPClient> clientUdp() const;
+
+ protected:
+  UDPClient* broadcastClient() override;
+
+ private:
+  Link udp_;
+  std::shared_ptr<UDPClient> udp_client_;
+};
+
+// LABEL_DICT lookup of a class name; the class name itself when unknown.
+std::string labelFor(const std::string& class_name);
+
+}  // namespace orv

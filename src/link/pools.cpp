@@ -1,0 +1,245 @@
+#include "link/pools.hpp"
+
+namespace orv {
+
+// ---- CancelToken -------------------------------------------------------------
+
+void CancelToken::cancel() {
+  cancelled_.store(true, std::memory_order_release);
+  std::function<void()> w;
+  {
+    std::lock_guard lk(m_);
+    w = waker_;
+  }
+  if (w) w();
+}
+
+void CancelToken::setWaker(std::function<void()> waker) {
+  std::lock_guard lk(m_);
+  waker_ = std::move(waker);
+}
+
+namespace {
+// Registers the token's waker for the duration of one wait.
+class WakerScope {
+ public:
+  WakerScope(CancelToken* tok, std::function<void()> w) : tok_(tok) {
+    if (tok_) tok_->setWaker(std::move(w));
+  }
+  ~WakerScope() {
+    if (tok_) tok_->setWaker(nullptr);
+  }
+  WakerScope(const WakerScope&) = delete;
+  WakerScope& operator=(const WakerScope&) = delete;
+
+ private:
+  CancelToken* tok_;
+};
+}  // namespace
+
+// ---- EchoPool ----------------------------------------------------------------
+
+void EchoPool::put(int64_t key, Bytes data) {
+  {
+    std::lock_guard lk(m_);
+    slots_[key] = std::move(data);
+  }
+  cv_.notify_all();
+}
+
+std::optional<Bytes> EchoPool::pop(int64_t key) {
+  std::lock_guard lk(m_);
+  auto it = slots_.find(key);
+  if (it == slots_.end()) return std::nullopt;
+  Bytes out = std::move(it->second);
+  slots_.erase(it);
+  return out;
+}
+
+bool EchoPool::contains(int64_t key) const {
+  std::lock_guard lk(m_);
+  return slots_.count(key) != 0;
+}
+
+size_t EchoPool::size() const {
+  std::lock_guard lk(m_);
+  return slots_.size();
+}
+
+std::vector<std::pair<int64_t, Bytes>> EchoPool::snapshot() const {
+  std::lock_guard lk(m_);
+  return {slots_.begin(), slots_.end()};
+}
+
+void EchoPool::clear() {
+  std::lock_guard lk(m_);
+  slots_.clear();
+}
+
+EchoPool::WaitResult EchoPool::waitPop(int64_t key, Clock::time_point deadline, Bytes& out,
+                                       CancelToken* tok) {
+  WakerScope ws(tok, [this] { wakeAll(); });
+  std::unique_lock lk(m_);
+  for (;;) {
+    auto it = slots_.find(key);
+    if (it != slots_.end()) {
+      out = std::move(it->second);
+      slots_.erase(it);
+      return WaitResult::Taken;
+    }
+    if (tok && tok->cancelled()) return WaitResult::Cancelled;
+    if (closed_) return WaitResult::Closed;
+    if (Clock::now() >= deadline) return WaitResult::TimedOut;
+    cv_.wait_until(lk, deadline);
+  }
+}
+
+EchoPool::WaitResult EchoPool::sleepUntil(Clock::time_point deadline, CancelToken* tok) {
+  WakerScope ws(tok, [this] { wakeAll(); });
+  std::unique_lock lk(m_);
+  for (;;) {
+    if (tok && tok->cancelled()) return WaitResult::Cancelled;
+    if (closed_) return WaitResult::Closed;
+    if (Clock::now() >= deadline) return WaitResult::TimedOut;
+    cv_.wait_until(lk, deadline);
+  }
+}
+
+void EchoPool::close() {
+  {
+    std::lock_guard lk(m_);
+    closed_ = true;
+  }
+  cv_.notify_all();
+}
+
+void EchoPool::reopen() {
+  std::lock_guard lk(m_);
+  closed_ = false;
+}
+
+bool EchoPool::closed() const {
+  std::lock_guard lk(m_);
+  return closed_;
+}
+
+void EchoPool::wakeAll() {
+  // Taking the lock orders the wake after a waiter's predicate check.
+  { std::lock_guard lk(m_); }
+  cv_.notify_all();
+}
+
+// ---- StreamQueue -------------------------------------------------------------
+
+bool StreamQueue::push(Bytes item) {
+  {
+    std::lock_guard lk(m_);
+    if (max_ != 0 && q_.size() >= max_) return false;
+    q_.push_back(std::move(item));
+  }
+  cv_.notify_all();
+  return true;
+}
+
+std::optional<Bytes> StreamQueue::tryPop() {
+  std::lock_guard lk(m_);
+  if (q_.empty()) return std::nullopt;
+  Bytes out = std::move(q_.front());
+  q_.pop_front();
+  return out;
+}
+
+std::optional<Bytes> StreamQueue::popWait(Clock::time_point deadline, CancelToken* tok) {
+  WakerScope ws(tok, [this] {
+    { std::lock_guard lk(m_); }
+    cv_.notify_all();
+  });
+  std::unique_lock lk(m_);
+  for (;;) {
+    if (!q_.empty()) {
+      Bytes out = std::move(q_.front());
+      q_.pop_front();
+      return out;
+    }
+    if ((tok && tok->cancelled()) || closed_ || Clock::now() >= deadline) return std::nullopt;
+    cv_.wait_until(lk, deadline);
+  }
+}
+
+bool StreamQueue::waitSize(size_t n, CancelToken* tok) {
+  WakerScope ws(tok, [this] {
+    { std::lock_guard lk(m_); }
+    cv_.notify_all();
+  });
+  std::unique_lock lk(m_);
+  for (;;) {
+    if (q_.size() >= n) return true;
+    if ((tok && tok->cancelled()) || closed_) return false;
+    cv_.wait(lk);
+  }
+}
+
+size_t StreamQueue::size() const {
+  std::lock_guard lk(m_);
+  return q_.size();
+}
+
+void StreamQueue::clear() {
+  std::lock_guard lk(m_);
+  q_.clear();
+}
+
+void StreamQueue::close() {
+  {
+    std::lock_guard lk(m_);
+    closed_ = true;
+  }
+  cv_.notify_all();
+}
+
+// ---- StreamPool --------------------------------------------------------------
+
+std::shared_ptr<StreamQueue> StreamPool::get(const StreamKey& key) {
+  std::lock_guard lk(m_);
+  auto& q = queues_[key];
+  if (!q) q = std::make_shared<StreamQueue>();
+  return q;
+}
+
+std::vector<StreamKey> StreamPool::keys() const {
+  std::lock_guard lk(m_);
+  std::vector<StreamKey> out;
+  out.reserve(queues_.size());
+  for (const auto& [k, q] : queues_) out.push_back(k);
+  return out;
+}
+
+void StreamPool::closeAll() {
+  std::lock_guard lk(m_);
+  for (auto& [k, q] : queues_) q->close();
+}
+
+// ---- BroadcastPool -----------------------------------------------------------
+
+void BroadcastPool::add(int cmd, Bytes answer) {
+  std::lock_guard lk(m_);
+  sets_[cmd].insert(std::move(answer));
+}
+
+void BroadcastPool::clear(int cmd) {
+  std::lock_guard lk(m_);
+  sets_[cmd].clear();
+}
+
+std::set<Bytes> BroadcastPool::get(int cmd) {
+  std::lock_guard lk(m_);
+  return sets_[cmd];
+}
+
+size_t BroadcastPool::size(int cmd) const {
+  std::lock_guard lk(m_);
+  auto it = sets_.find(cmd);
+  return it == sets_.end() ? 0 : it->second.size();
+}
+
+}  // namespace orv

@@ -1,0 +1,133 @@
+// The three data pools of a device: latest reply per key, a FIFO per stream
+// key, a set of answers per broadcast command.  Receive threads write them,
+// callers read them; every single operation is indivisible.  A reply wakes
+// its waiter at once.
+#pragma once
+
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <set>
+#include <unordered_map>
+#include <vector>
+
+#include "link/value.hpp"
+
+namespace orv {
+
+using Clock = std::chrono::steady_clock;
+
+// Lets a waiter be stopped from another thread (a cancelled awaitable).
+class CancelToken {
+ public:
+  bool cancelled() const { return cancelled_.load(std::memory_order_acquire); }
+  // Sets the flag and wakes whatever wait the token is registered with.
+  void cancel();
+  // Called by a waiter before it sleeps; the waker must not outlive the wait.
+  void setWaker(std::function<void()> waker);
+
+ private:
+  std::atomic<bool> cancelled_{false};
+  std::mutex m_;
+  std::function<void()> waker_;
+};
+
+// data_pool_echo: one slot per key, the latest reply.
+class EchoPool {
+ public:
+  enum class WaitResult { Taken, TimedOut, Cancelled, Closed };
+
+  void put(int64_t key, Bytes data);
+  std::optional<Bytes> pop(int64_t key);
+  bool contains(int64_t key) const;
+  size_t size() const;
+  std::vector<std::pair<int64_t, Bytes>> snapshot() const;
+  void clear();
+
+  // Waits until a reply for key is there (taking it) or until `deadline`.
+  // A reply already present is taken at once.
+  WaitResult waitPop(int64_t key, Clock::time_point deadline, Bytes& out, CancelToken* tok);
+  // Sleeps until `deadline` unless cancelled or closed meanwhile.
+  WaitResult sleepUntil(Clock::time_point deadline, CancelToken* tok);
+
+  // Wakes every waiter; waiters see Closed while closed.
+  void close();
+  void reopen();
+  bool closed() const;
+  void wakeAll();
+
+ private:
+  mutable std::mutex m_;
+  std::condition_variable cv_;
+  std::unordered_map<int64_t, Bytes> slots_;
+  bool closed_ = false;
+};
+
+// A stream key: an int, a pair (cmd, port) or a triple (cmd, port, cs).
+struct StreamKey {
+  int cmd = 0;
+  int port = 0;
+  int cs = 0;
+  uint8_t arity = 1;  // 1, 2 or 3
+  auto operator<=>(const StreamKey&) const = default;
+  static StreamKey one(int c) { return {c, 0, 0, 1}; }
+  static StreamKey pair(int c, int p) { return {c, p, 0, 2}; }
+  static StreamKey triple(int c, int p, int s) { return {c, p, s, 3}; }
+};
+
+// An unbounded (or bounded) thread-safe FIFO of byte records.
+class StreamQueue {
+ public:
+  explicit StreamQueue(size_t max_size = 0) : max_(max_size) {}
+  // False when the queue is bounded and full (the record is dropped).
+  bool push(Bytes item);
+  std::optional<Bytes> tryPop();
+  // Waits for an item until deadline; nullopt on timeout, cancel or close.
+  std::optional<Bytes> popWait(Clock::time_point deadline, CancelToken* tok = nullptr);
+  // Waits until size() >= n; false on cancel/close.
+  bool waitSize(size_t n, CancelToken* tok = nullptr);
+  size_t size() const;
+  void clear();
+  void close();  // wakes waiters for good
+
+ private:
+  mutable std::mutex m_;
+  std::condition_variable cv_;
+  std::deque<Bytes> q_;
+  size_t max_;
+  bool closed_ = false;
+};
+
+class StreamPool {
+ public:
+  // The queue of a key, made empty on first use.
+  std::shared_ptr<StreamQueue> get(const StreamKey& key);
+  std::vector<StreamKey> keys() const;
+  void closeAll();
+
+ private:
+  mutable std::mutex m_;
+  std::map<StreamKey, std::shared_ptr<StreamQueue>> queues_;
+};
+
+// data_pool_bcst: a set of answers per command.
+class BroadcastPool {
+ public:
+  void add(int cmd, Bytes answer);
+  void clear(int cmd);
+  std::set<Bytes> get(int cmd);  // a copy; the entry is made on first use
+  size_t size(int cmd) const;
+
+ private:
+  mutable std::mutex m_;
+  std::map<int, std::set<Bytes>> sets_;
+};
+
+}  // namespace orv
