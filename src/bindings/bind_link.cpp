@@ -82,6 +82,7 @@ void closeAllDevices() {
   py::gil_scoped_release r;
   for (auto& d : open) {
     try {
+      d->disconnect(false);
       d->close(false);
     } catch (const std::exception&) {
       // A link that fails to shut down cleanly is torn down by the destructor.
@@ -113,7 +114,12 @@ void bindLink(py::module_& m) {
                pk = c.recvAndSplitPacket(length);
              }
              py::list out;
-             for (auto& p : pk) out.append(py::make_list(p.cmd, toPy(p.data)));
+             for (auto& p : pk) {
+               py::list pair;
+               pair.append(p.cmd);
+               pair.append(toPy(p.data));
+               out.append(pair);
+             }
              return out;
            })
       .def("recvPacket",

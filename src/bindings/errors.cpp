@@ -43,8 +43,9 @@ void warningInit(py::object self, py::object code, py::object msg, py::args args
   // caller's.
   py::list stack = py::module_::import("traceback").attr("format_stack")();
   py::print(py::str("\n").attr("join")(stack));
-  py::str text = py::str("Warning {:d}: {}").attr("format")(code, msg);
-  py::module_::import("warnings").attr("warn")(text, self.attr("__class__"), 2);
+  // Warned as the instance itself, whose text is "Warning {code}: {msg}"; a
+  // category class would be instantiated again by the warnings machinery.
+  py::module_::import("warnings").attr("warn")(self, py::none(), 2);
 }
 
 std::string warningStr(py::object self) {
@@ -103,7 +104,7 @@ void bindErrors(py::module_& m) {
 
   // printGenericError(err): "<ClassName>: <text>"
   m.def("printGenericError", [](py::object err) {
-    py::print(py::str(err.get_type().attr("__name__")) + py::str(":"), err);
+    py::print(py::str(py::type::handle_of(err).attr("__name__")) + py::str(":"), err);
   });
   m.def("checkFirmwareError", [](py::object status) -> int {
     // A status that is not an integer matches no row.

@@ -100,6 +100,7 @@ class Device {
   // close as the device class defines it; every class ends by joining the
   // threads it ended.
   virtual void close(bool verbose = true) = 0;
+  virtual void disconnect(bool verbose = true) = 0;
 
   // ---- the exchange (blocking) ----
   void sendPacketWithoutReply(int cmd, std::span<const uint8_t> data_out);
@@ -162,7 +163,7 @@ class USBDevice : public Device {
   explicit USBDevice(bool verbose = true, std::string class_name = "USBDevice");
   ~USBDevice() override;
   void connect(const std::string& serial_num = "default", bool verbose = true);
-  void disconnect(bool verbose = true);
+  void disconnect(bool verbose = true) override;
   void close(bool verbose = true) override;
 
   bool connectStatusCmd() const { return cmd_.status; }
@@ -184,7 +185,7 @@ class NetworkDevice : public Device {
   ~NetworkDevice() override;
   void connect(const std::string& ip_addr = "192.168.1.110", int port = TCP_CMD_PORT,
                bool verbose = true);
-  void disconnect(bool verbose = true);
+  void disconnect(bool verbose = true) override;
   void close(bool verbose = true) override;
 
   bool connectStatusCmd() const { return cmd_.status; }
@@ -212,7 +213,7 @@ class WifiDevice : public NetworkDevice {
   ~WifiDevice() override;
   bool connect(const std::string& ip = "192.168.5.79", int port1 = TCP_DATA_PORT,
                int port2 = TCP_CMD_PORT, bool verbose = true);
-  void disconnect(bool verbose = true);
+  void disconnect(bool verbose = true) override;
   void close(bool verbose = true) override;
 
   bool connectStatusData() const { return data_.status; }
@@ -227,7 +228,7 @@ class BroadcastDevice : public Device {
   explicit BroadcastDevice(bool verbose = true, std::string class_name = "BroadcastDevice");
   ~BroadcastDevice() override;
   void connect(bool verbose = true);
-  void disconnect(bool verbose = true);
+  void disconnect(bool verbose = true) override;
   void close(bool verbose = true) override;
 
   bool connectStatusUdp() const { return udp_.status; }

@@ -48,27 +48,29 @@ class Splitter {
   size_t bufferedBytes() const;  // size of stream()
   void clear();
 
-  // Bytes of dead junk kept at most before they are trimmed.
+  // Stream size beyond which bytes that can no longer belong to a packet
+  // are discarded (checked at the end of each feed).
   static constexpr size_t kTrimThreshold = 1 << 17;
 
  private:
   // All positions are absolute byte counts since the splitter was made, so
   // they survive compaction of buf_ and never need rebasing.
-  static constexpr uint64_t kMaxLength = 32767;          // largest signed length
-  static constexpr uint64_t kReach = 3 + kMaxLength;     // farthest end mark from a start byte
-  static constexpr size_t kRing = 32768;                 // > kReach - 3, power of two
+  static constexpr uint64_t kMaxLength = 32767;       // largest signed length
+  static constexpr uint64_t kReach = 3 + kMaxLength;  // farthest end mark from a start byte
+  static constexpr size_t kRing = 32768;              // live targets span kReach - 2 positions
 
   const uint8_t* at(uint64_t abs) const { return buf_.data() + (abs - origin_); }
+  bool acceptAtHead(uint64_t end, std::vector<RawPacket>& out);
   void registerStarts(uint64_t crlf);
   void acceptPacket(uint64_t stx, uint64_t crlf, std::vector<RawPacket>& out);
   void trimAndCompact();
 
-  Bytes buf_;               // buf_[0] is at absolute position origin_
+  Bytes buf_;  // buf_[0] is at absolute position origin_
   uint64_t origin_ = 0;
-  uint64_t base_ = 0;       // stream()[0]
-  uint64_t last_ = 0;       // the reference's last_index, absolute
-  uint64_t scan_ = 0;       // next position that may hold an end mark
-  uint64_t stx_scan_ = 0;   // next position not yet looked at as a start byte
+  uint64_t base_ = 0;      // stream()[0]
+  uint64_t last_ = 0;      // last_index of the plain reassembly, absolute
+  uint64_t scan_ = 0;      // next position that may hold an end mark
+  uint64_t stx_scan_ = 0;  // next position not yet looked at as a start byte
   // Slot t % kRing holds 1 + the earliest live start byte whose end mark
   // would be at t (0: none).  Live targets always lie within one ring span.
   std::vector<uint64_t> by_target_;

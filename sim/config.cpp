@@ -1,0 +1,127 @@
+// Device configuration helpers.
+#include "sim/config.hpp"
+
+#include <cstdio>
+
+#include "link/error.hpp"
+
+namespace orv::sim {
+
+const char* linkName(Link link) {
+  switch (link) {
+    case Link::Ethernet:
+      return "eth";
+    case Link::Wifi:
+      return "wifi";
+    case Link::Usb:
+      return "usb";
+  }
+  return "eth";
+}
+
+std::optional<Link> parseLink(std::string_view text) {
+  if (text == "eth" || text == "ethernet" || text == "Ethernet") return Link::Ethernet;
+  if (text == "wifi" || text == "Wifi") return Link::Wifi;
+  if (text == "usb" || text == "Usb") return Link::Usb;
+  return std::nullopt;
+}
+
+const char* channelName(Channel ch) {
+  switch (ch) {
+    case Channel::Auto:
+      return "auto";
+    case Channel::Cmd:
+      return "cmd";
+    case Channel::Data:
+      return "data";
+    case Channel::Udp:
+      return "udp";
+  }
+  return "auto";
+}
+
+std::string defaultDriverInfo(const DeviceConfig& cfg) {
+  return cfg.model + "_SIM_3.0.19_" + linkName(cfg.link) + "_" + cfg.serial;
+}
+
+namespace {
+
+// Parses up to `n` fields of a number in `base` separated by `sep`, each at
+// most `max`.
+bool parseFields(std::string_view text, char sep, int base, int n, unsigned max,
+                 unsigned char* out) {
+  size_t pos = 0;
+  for (int i = 0; i < n; ++i) {
+    if (pos >= text.size()) return false;
+    unsigned v = 0;
+    size_t digits = 0;
+    while (pos < text.size() && text[pos] != sep) {
+      const char c = text[pos];
+      int d;
+      if (c >= '0' && c <= '9') {
+        d = c - '0';
+      } else if (base == 16 && c >= 'a' && c <= 'f') {
+        d = c - 'a' + 10;
+      } else if (base == 16 && c >= 'A' && c <= 'F') {
+        d = c - 'A' + 10;
+      } else {
+        return false;
+      }
+      v = v * static_cast<unsigned>(base) + static_cast<unsigned>(d);
+      if (v > max || ++digits > 3) return false;
+      ++pos;
+    }
+    if (digits == 0) return false;
+    out[i] = static_cast<unsigned char>(v);
+    if (i + 1 < n) {
+      if (pos >= text.size() || text[pos] != sep) return false;
+      ++pos;
+    }
+  }
+  return pos == text.size();
+}
+
+}  // namespace
+
+bool parseIPv4(std::string_view text, unsigned char out[4]) {
+  return parseFields(text, '.', 10, 4, 255, out);
+}
+
+bool parseMac(std::string_view text, unsigned char out[6]) {
+  return parseFields(text, ':', 16, 6, 255, out);
+}
+
+std::string formatIPv4(const unsigned char in[4]) {
+  char buf[20];
+  std::snprintf(buf, sizeof buf, "%u.%u.%u.%u", in[0], in[1], in[2], in[3]);
+  return buf;
+}
+
+std::string formatMac(const unsigned char in[6]) {
+  char buf[20];
+  std::snprintf(buf, sizeof buf, "%02x:%02x:%02x:%02x:%02x:%02x", in[0], in[1], in[2], in[3], in[4],
+                in[5]);
+  return buf;
+}
+
+bool isLoopbackHost(std::string_view host) {
+  unsigned char a[4];
+  return host == "localhost" || (parseIPv4(host, a) && a[0] == 127);
+}
+
+DeviceConfig normalized(DeviceConfig cfg) {
+  if (cfg.driver_info.empty()) cfg.driver_info = defaultDriverInfo(cfg);
+  if (cfg.ip_addr.empty()) cfg.ip_addr = cfg.host == "localhost" ? "127.0.0.1" : cfg.host;
+  unsigned char b[6];
+  if (!parseMac(cfg.mac, b))
+    throw ValueError("simulated device: bad MAC address '" + cfg.mac + "'");
+  for (const std::string* ip : {&cfg.ip_addr, &cfg.subnet_mask, &cfg.gateway}) {
+    if (!parseIPv4(*ip, b)) throw ValueError("simulated device: bad IPv4 address '" + *ip + "'");
+  }
+  if (cfg.link != Link::Usb && cfg.host != "localhost" && !parseIPv4(cfg.host, b)) {
+    throw ValueError("simulated device: host must be an IPv4 address, not '" + cfg.host + "'");
+  }
+  return cfg;
+}
+
+}  // namespace orv::sim

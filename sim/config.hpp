@@ -1,0 +1,55 @@
+// What one simulated device is: its model, its link and its identity.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace orv::sim {
+
+// The physical link of a device.  Ethernet: one TCP command listener.
+// Wifi: a command listener and a data listener.  Usb: a virtual USB device.
+enum class Link { Ethernet, Wifi, Usb };
+
+// Which way a packet travels.  Auto (sending only) picks the data link of a
+// Wi-Fi device for streaming commands and the command link for the rest;
+// Udp marks discovery traffic.
+enum class Channel { Auto, Cmd, Data, Udp };
+
+struct DeviceConfig {
+  std::string model = "Trellis";
+  Link link = Link::Ethernet;
+  std::string serial = "SIM00001";
+  std::string host = "127.0.0.1";
+  int cmd_port = 0;   // 0: an ephemeral port
+  int data_port = 0;  // Wi-Fi only; 0: an ephemeral port
+  // Answer to GET_DRIVER_INFO; empty: defaultDriverInfo(*this).
+  std::string driver_info;
+  std::string mac = "02:4F:52:56:00:01";
+  // Address reported by discovery; empty: host.
+  std::string ip_addr;
+  std::string subnet_mask = "255.255.255.0";
+  std::string gateway = "127.0.0.1";
+};
+
+// "eth", "wifi", "usb" (also accepted by parseLink, with "ethernet").
+const char* linkName(Link link);
+std::optional<Link> parseLink(std::string_view text);
+// "auto", "cmd", "data", "udp".
+const char* channelName(Channel ch);
+
+// model + "_SIM_3.0.19_" + link name + "_" + serial.
+std::string defaultDriverInfo(const DeviceConfig& cfg);
+
+// Fills driver_info and ip_addr when empty; checks the addresses
+// (orv::ValueError on a malformed MAC or IPv4 text).
+DeviceConfig normalized(DeviceConfig cfg);
+
+// Text address helpers used by discovery ("a.b.c.d", "aa:bb:cc:dd:ee:ff").
+bool parseIPv4(std::string_view text, unsigned char out[4]);
+bool parseMac(std::string_view text, unsigned char out[6]);
+std::string formatIPv4(const unsigned char in[4]);
+std::string formatMac(const unsigned char in[6]);
+bool isLoopbackHost(std::string_view host);
+
+}  // namespace orv::sim

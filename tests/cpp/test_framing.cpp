@@ -1,0 +1,522 @@
+// Packet building, reassembly and classification.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <ostream>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "link/constants.hpp"
+#include "link/framing.hpp"
+#include "reference_splitter.hpp"
+
+namespace orv {
+namespace {
+
+using Packets = std::vector<RawPacket>;
+
+Bytes cat(std::initializer_list<Bytes> parts) {
+  Bytes out;
+  for (const Bytes& p : parts) out.insert(out.end(), p.begin(), p.end());
+  return out;
+}
+
+Bytes pkt(int cmd, const Bytes& data = {}) { return preparePacket(cmd, std::span(data)); }
+
+std::string hex(const Bytes& b) {
+  std::string s;
+  char buf[4];
+  for (uint8_t v : b) {
+    std::snprintf(buf, sizeof buf, "%02X ", v);
+    s += buf;
+  }
+  return s;
+}
+
+std::string describe(const Packets& ps) {
+  std::string s;
+  for (const RawPacket& p : ps) s += "[" + std::to_string(p.cmd) + ": " + hex(p.data) + "] ";
+  return s;
+}
+
+// ---------------------------------------------------------------- building
+
+struct PrepareCase {
+  const char* name;
+  int cmd;
+  std::vector<int64_t> data;
+  Bytes wire;
+};
+
+std::ostream& operator<<(std::ostream& os, const PrepareCase& c) { return os << c.name; }
+
+class PreparePacketTest : public ::testing::TestWithParam<PrepareCase> {};
+
+TEST_P(PreparePacketTest, BuildsWireBytes) {
+  const PrepareCase& c = GetParam();
+  EXPECT_EQ(hex(preparePacket(c.cmd, std::span<const int64_t>(c.data))), hex(c.wire));
+  // The byte overload agrees whenever the values are bytes already.
+  if (std::all_of(c.data.begin(), c.data.end(), [](int64_t v) { return v >= 0 && v < 256; })) {
+    const Bytes as_bytes(c.data.begin(), c.data.end());
+    EXPECT_EQ(hex(preparePacket(c.cmd, std::span(as_bytes))), hex(c.wire));
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Framing, PreparePacketTest,
+    ::testing::Values(
+        PrepareCase{"GetDriverInfo", GET_DRIVER_INFO, {0}, {2, 0, 2, 0xF0, 0, 0x0D, 0x0A}},
+        PrepareCase{"AhrsStartNoData", AHRS_START, {}, {2, 0, 2, 0x24, 0x01, 0x0D, 0x0A}},
+        PrepareCase{"OneByteNoData", 200, {}, {2, 0, 1, 200, 0x0D, 0x0A}},
+        PrepareCase{"Largest1Byte", 255, {7}, {2, 0, 2, 0xFF, 7, 0x0D, 0x0A}},
+        PrepareCase{"Smallest2Byte", 256, {7}, {2, 0, 3, 0x01, 0x00, 7, 0x0D, 0x0A}},
+        PrepareCase{"OpenCanSentAsOneByte", OPEN_CAN, {1}, {2, 0, 2, 0x30, 1, 0x0D, 0x0A}},
+        PrepareCase{"FramingBytesInData", 183, {2, 13, 10}, {2, 0, 4, 183, 2, 13, 10, 13, 10}},
+        PrepareCase{"ValuesModulo256", 100, {256, -1, 511}, {2, 0, 4, 100, 0, 0xFF, 0xFF, 13, 10}}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(PreparePacket, LengthFieldIsBigEndianForLongData) {
+  const Bytes data(300, 0xAB);
+  const Bytes one = pkt(129, data);
+  ASSERT_EQ(one.size(), 300u + 6);
+  EXPECT_EQ(one[1], 0x01);  // 301 = 0x012D
+  EXPECT_EQ(one[2], 0x2D);
+  const Bytes two = pkt(8265, data);
+  ASSERT_EQ(two.size(), 300u + 7);
+  EXPECT_EQ(two[1], 0x01);  // 302 = 0x012E
+  EXPECT_EQ(two[2], 0x2E);
+  EXPECT_EQ(two[3], 0x20);
+  EXPECT_EQ(two[4], 0x49);
+  EXPECT_EQ(two[305], 0x0D);
+  EXPECT_EQ(two[306], 0x0A);
+}
+
+// ------------------------------------------------------------- reassembly
+
+TEST(Splitter, EmptyReadChangesNothing) {
+  Splitter sp;
+  EXPECT_TRUE(sp.feed({}).empty());
+  EXPECT_EQ(sp.lastIndex(), 0u);
+  const Bytes stray = {0x0D, 0x0A, 0x07};
+  EXPECT_TRUE(sp.feed(stray).empty());
+  EXPECT_EQ(sp.lastIndex(), 1u);
+  EXPECT_TRUE(sp.feed({}).empty());
+  EXPECT_EQ(sp.lastIndex(), 1u);
+  EXPECT_EQ(sp.stream(), stray);
+}
+
+TEST(Splitter, PacketByteByByteComesOutOnItsLineFeed) {
+  const Bytes wire = pkt(GET_DRIVER_INFO, {'v', '3', 0x0D, '_', 2});
+  Splitter sp;
+  for (size_t i = 0; i + 1 < wire.size(); ++i) {
+    ASSERT_TRUE(sp.feed(std::span(&wire[i], 1)).empty()) << "byte " << i;
+  }
+  EXPECT_EQ(sp.bufferedBytes(), wire.size() - 1);
+  const Packets got = sp.feed(std::span(&wire.back(), 1));
+  EXPECT_EQ(got, (Packets{{GET_DRIVER_INFO, {'v', '3', 0x0D, '_', 2}}}));
+  EXPECT_EQ(sp.bufferedBytes(), 0u);
+  EXPECT_EQ(sp.lastIndex(), 0u);
+}
+
+TEST(Splitter, EndMarkInsidePayloadIsSteppedOver) {
+  const Bytes data = {1, 0x0D, 0x0A, 2};
+  const Bytes wire = pkt(GET_DRIVER_INFO, data);  // 02 00 05 F0 01 0D 0A 02 0D 0A
+  Splitter sp;
+  EXPECT_TRUE(sp.feed(std::span(wire).first(8)).empty());
+  EXPECT_EQ(sp.lastIndex(), 6u);  // just past the inner CR
+  EXPECT_EQ(sp.feed(std::span(wire).subspan(8)), (Packets{{GET_DRIVER_INFO, data}}));
+}
+
+TEST(Splitter, EarliestAgreeingStartByteWins) {
+  // Each payload holds a start byte whose length agrees with the same end
+  // mark; the packet's own start byte comes first and wins.
+  EXPECT_EQ(Splitter().feed(pkt(0x41, {2, 0, 0})), (Packets{{0x41, {2, 0, 0}}}));
+  EXPECT_EQ(Splitter().feed(pkt(0x99, {2, 0, 1, 0x41})), (Packets{{0x99, {2, 0, 1, 0x41}}}));
+  // Junk ahead with an agreeing start byte wins over the packet.
+  const Bytes wire = cat({{2, 0, 4}, pkt(0x60, {})});  // 02 00 04 | 02 00 01 60 0D 0A
+  EXPECT_EQ(Splitter().feed(wire), (Packets{{0x0200, {1, 0x60}}}));
+}
+
+TEST(Splitter, TwoPacketsInOneRead) {
+  Splitter sp;
+  const Packets got = sp.feed(cat({pkt(240, {1, 2}), pkt(AHRS_START, {9})}));
+  EXPECT_EQ(got, (Packets{{240, {1, 2}}, {AHRS_START, {9}}}));
+  EXPECT_EQ(sp.lastIndex(), 0u);
+  EXPECT_TRUE(sp.stream().empty());
+}
+
+TEST(Splitter, UsbPaddingStaysUntilTheNextPacket) {
+  Bytes transfer = pkt(GET_DRIVER_INFO, {0});
+  ASSERT_EQ(transfer.size(), 7u);
+  transfer.resize(USB_PKT_SIZE, 0);
+  Splitter sp;
+  EXPECT_EQ(sp.feed(transfer), (Packets{{GET_DRIVER_INFO, {0}}}));
+  EXPECT_EQ(sp.stream(), Bytes(57, 0));
+  EXPECT_EQ(sp.lastIndex(), 0u);
+  Bytes second = pkt(0x77, {5, 6});
+  second.resize(USB_PKT_SIZE, 0);
+  EXPECT_EQ(sp.feed(second), (Packets{{0x77, {5, 6}}}));
+  EXPECT_EQ(sp.stream(), Bytes(USB_PKT_SIZE - 8, 0));
+}
+
+struct WireCase {
+  const char* name;
+  Bytes wire;
+  Packets expected;
+};
+
+std::ostream& operator<<(std::ostream& os, const WireCase& c) { return os << c.name; }
+
+class SplitterWireTest : public ::testing::TestWithParam<WireCase> {};
+
+TEST_P(SplitterWireTest, Decodes) {
+  Splitter sp;
+  EXPECT_EQ(sp.feed(GetParam().wire), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Framing, SplitterWireTest,
+    ::testing::Values(
+        WireCase{"EmptyDataLengthOne", {2, 0, 1, 0xF0, 0x0D, 0x0A}, {{0xF0, {}}}},
+        WireCase{"AhrsStart", {2, 0, 4, 0x24, 0x01, 7, 8, 0x0D, 0x0A}, {{AHRS_START, {7, 8}}}},
+        WireCase{"AhrsStartNoData", {2, 0, 2, 0x24, 0x01, 0x0D, 0x0A}, {{AHRS_START, {}}}},
+        // 48 opens a two-byte command on receipt; 49 is a one-byte command.
+        WireCase{"FirstByte48", {2, 0, 3, 0x30, 0x05, 7, 0x0D, 0x0A}, {{0x3005, {7}}}},
+        WireCase{"OpenCanComesBackTwoByte", {2, 0, 2, 0x30, 1, 0x0D, 0x0A}, {{0x3001, {}}}},
+        WireCase{"FirstByte49", {2, 0, 3, 0x31, 0x05, 7, 0x0D, 0x0A}, {{START_CAN, {5, 7}}}},
+        // A length that leaves no room for the second command byte reads the CR.
+        WireCase{"TwoByteLengthOne", {2, 0, 1, 0x05, 0x0D, 0x0A}, {{0x050D, {}}}},
+        // A zero length reads the command on the end mark itself.
+        WireCase{"LengthZero", {2, 0, 0, 0x0D, 0x0A}, {{0x0D0A, {}}}},
+        WireCase{"JunkAheadIsDropped", {0, 2, 0x0D, 0x0A, 2, 0, 1, 0x60, 0x0D, 0x0A}, {{0x60, {}}}},
+        WireCase{"NegativeLengthNeverMatches", {2, 0xFF, 0xFF, 0x0D, 0x0A}, {}},
+        WireCase{"NoStartByte", {0, 0, 1, 0x60, 0x0D, 0x0A}, {}}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(Splitter, LengthOf32768OrMoreNeverMatches) {
+  const Bytes huge(32767, 0x55);  // length 32768: read back as -32768
+  const Bytes big = pkt(0x60, huge);
+  ASSERT_EQ(big[1], 0x80);
+  ASSERT_EQ(big[2], 0x00);
+  const Bytes largest(32766, 0x55);  // length 32767: the largest that can match
+  Splitter sp;
+  EXPECT_TRUE(sp.feed(big).empty());
+  EXPECT_EQ(sp.feed(pkt(0x61, {1})), (Packets{{0x61, {1}}}));
+  EXPECT_EQ(sp.feed(pkt(0x62, largest)), (Packets{{0x62, largest}}));
+}
+
+TEST(Splitter, ClearForgetsEverything) {
+  Splitter sp;
+  const Bytes wire = pkt(0x60, {1, 2, 3});
+  EXPECT_TRUE(sp.feed(cat({{0x0D, 0x0A}, Bytes(wire.begin(), wire.begin() + 4)})).empty());
+  EXPECT_EQ(sp.lastIndex(), 1u);
+  sp.clear();
+  EXPECT_EQ(sp.bufferedBytes(), 0u);
+  EXPECT_EQ(sp.lastIndex(), 0u);
+  EXPECT_EQ(sp.feed(wire), (Packets{{0x60, {1, 2, 3}}}));
+}
+
+// ------------------------------------------------------- differential test
+
+// Builds streams of valid packets mixed with the kinds of damage a link sees.
+class StreamMaker {
+ public:
+  explicit StreamMaker(uint64_t seed) : rng_(seed) {}
+
+  size_t below(size_t n) { return std::uniform_int_distribution<size_t>(0, n - 1)(rng_); }
+  bool chance(int percent) { return below(100) < static_cast<size_t>(percent); }
+
+  uint8_t nastyByte() {
+    static constexpr uint8_t kNasty[] = {0x02, 0x0D, 0x0A, 0x00, 0x00,
+                                         0x7F, 0xFF, 0x01, 0x05, 0x30};
+    return chance(70) ? kNasty[below(sizeof kNasty)] : static_cast<uint8_t>(below(256));
+  }
+
+  Bytes data(size_t max_len) {
+    Bytes d(below(max_len + 1));
+    const bool nasty = chance(40);
+    for (auto& v : d) v = nasty ? nastyByte() : static_cast<uint8_t>(below(256));
+    return d;
+  }
+
+  int command() {
+    switch (below(5)) {
+      case 0:
+        return 49 + static_cast<int>(below(207));
+      case 1:
+        return 256 + static_cast<int>(below(0x3100 - 256));
+      case 2:
+        return static_cast<int>(below(49));
+      case 3:
+        return AHRS_START;
+      default:
+        return static_cast<int>(below(65536));
+    }
+  }
+
+  void piece(Bytes& s, size_t max_data) {
+    switch (below(10)) {
+      case 0:
+      case 1:
+      case 2: {  // a valid packet
+        const Bytes p = pkt(command(), data(max_data));
+        s.insert(s.end(), p.begin(), p.end());
+        break;
+      }
+      case 3:  // junk rich in framing bytes
+        for (size_t n = 1 + below(40); n > 0; --n) s.push_back(nastyByte());
+        break;
+      case 4: {  // a start byte with a plausible length
+        const uint16_t len = chance(70) ? static_cast<uint16_t>(below(40))
+                                        : static_cast<uint16_t>(32760 + below(16));
+        s.insert(s.end(), {2, static_cast<uint8_t>(len >> 8), static_cast<uint8_t>(len)});
+        break;
+      }
+      case 5:  // a lone end mark
+        s.insert(s.end(), {0x0D, 0x0A});
+        break;
+      case 6: {  // a damaged packet
+        Bytes p = pkt(command(), data(max_data));
+        const size_t at = below(p.size());
+        if (chance(50)) {
+          p.erase(p.begin() + static_cast<std::ptrdiff_t>(at));
+        } else {
+          p[at] = static_cast<uint8_t>(below(256));
+        }
+        s.insert(s.end(), p.begin(), p.end());
+        break;
+      }
+      case 7: {  // a truncated packet
+        const Bytes p = pkt(command(), data(max_data));
+        s.insert(s.end(), p.begin(), p.begin() + static_cast<std::ptrdiff_t>(below(p.size())));
+        break;
+      }
+      case 8:  // USB zero padding to the next transfer
+        s.resize((s.size() / USB_PKT_SIZE + 1) * USB_PKT_SIZE, 0);
+        break;
+      default:  // plain random bytes
+        for (size_t n = 1 + below(30); n > 0; --n) s.push_back(static_cast<uint8_t>(below(256)));
+        break;
+    }
+  }
+
+  std::vector<size_t> chunks(size_t total) {
+    std::vector<size_t> sizes;
+    const size_t mode = below(5);
+    for (size_t done = 0; done < total;) {
+      size_t n = 0;
+      switch (mode) {
+        case 0:
+          n = total;
+          break;
+        case 1:
+          n = 1;
+          break;
+        case 2:
+          n = USB_PKT_SIZE;
+          break;
+        case 3:
+          n = 1 + below(200);
+          break;
+        default:
+          n = 1 + below(TCP_PKT_LENGTH_MAX * 2);
+          break;
+      }
+      n = std::min(n, total - done);
+      sizes.push_back(n);
+      done += n;
+    }
+    return sizes;
+  }
+
+ private:
+  std::mt19937_64 rng_;
+};
+
+// Feeds the stream to both and compares every result, and the state while it
+// is not subject to trimming.
+void runDifferential(const Bytes& s, const std::vector<size_t>& chunks) {
+  ref::ReferenceSplitter model;
+  Splitter sp;
+  size_t off = 0;
+  for (size_t n : chunks) {
+    const std::span<const uint8_t> chunk(s.data() + off, n);
+    off += n;
+    const Packets want = model.feed(chunk);
+    Packets got;
+    sp.feed(chunk, got);
+    ASSERT_EQ(got, want) << "after byte " << off << "\n got: " << describe(got)
+                         << "\nwant: " << describe(want);
+    const Bytes st = sp.stream();
+    ASSERT_EQ(sp.bufferedBytes(), st.size());
+    if (model.stream.size() <= Splitter::kTrimThreshold) {
+      ASSERT_EQ(st, model.stream) << "after byte " << off;
+      ASSERT_EQ(sp.lastIndex(), model.last_index) << "after byte " << off;
+    } else {
+      ASSERT_LE(st.size(), model.stream.size());
+      const size_t cut = model.stream.size() - st.size();
+      ASSERT_TRUE(std::equal(st.begin(), st.end(), model.stream.begin() + cut));
+      ASSERT_EQ(sp.lastIndex(), model.last_index > cut ? model.last_index - cut : 0);
+    }
+  }
+}
+
+TEST(SplitterDifferential, RandomAndAdversarialStreams) {
+  for (uint64_t seed = 1; seed <= 4000; ++seed) {
+    StreamMaker mk(seed);
+    Bytes s;
+    const size_t pieces = 1 + mk.below(mk.chance(10) ? 400 : 40);
+    const size_t max_data = mk.chance(20) ? 300 : 24;
+    for (size_t i = 0; i < pieces; ++i) mk.piece(s, max_data);
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    runDifferential(s, mk.chunks(s.size()));
+    if (HasFatalFailure()) return;
+  }
+}
+
+// Streams beyond the trimming threshold: long runs without an accepted
+// packet, packets of nearly the largest length, start bytes that reach far.
+TEST(SplitterDifferential, LongStreamsAcrossTrimming) {
+  for (uint64_t seed = 1; seed <= 12; ++seed) {
+    StreamMaker mk(seed * 7919);
+    Bytes s;
+    while (s.size() < 3 * Splitter::kTrimThreshold) {
+      switch (mk.below(4)) {
+        case 0: {  // random bytes: sparse framing bytes
+          for (size_t n = mk.below(40000); n > 0; --n)
+            s.push_back(static_cast<uint8_t>(mk.below(256)));
+          break;
+        }
+        case 1: {  // a packet of a length near the limit
+          const size_t len = 32766 - mk.below(mk.chance(50) ? 4 : 3000);
+          const Bytes p = pkt(0x60 + static_cast<int>(mk.below(100)), Bytes(len, 0x11));
+          s.insert(s.end(), p.begin(), p.end());
+          break;
+        }
+        case 2: {  // far-reaching start bytes and end marks
+          for (size_t n = mk.below(30); n > 0; --n) {
+            const uint16_t len = static_cast<uint16_t>(32700 + mk.below(80));
+            s.insert(s.end(), {2, static_cast<uint8_t>(len >> 8), static_cast<uint8_t>(len)});
+            s.resize(s.size() + mk.below(2000), 0x44);
+            s.insert(s.end(), {0x0D, 0x0A});
+          }
+          break;
+        }
+        default:
+          for (int i = 0; i < 20; ++i) mk.piece(s, 40);
+          break;
+      }
+    }
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::vector<size_t> chunks;
+    for (size_t done = 0; done < s.size();) {
+      const size_t n = std::min(s.size() - done, 1 + mk.below(3000));
+      chunks.push_back(n);
+      done += n;
+    }
+    runDifferential(s, chunks);
+    if (HasFatalFailure()) return;
+  }
+}
+
+// The farthest start byte that can still agree sits exactly 32770 bytes
+// before its end mark, and the stream is trimmed while the end mark is
+// half received.
+TEST(Splitter, LongestPacketSurvivesTrimming) {
+  Bytes s(Splitter::kTrimThreshold + 5000, 0x44);
+  const Bytes data(32766, 0x33);
+  const Bytes p = pkt(0x70, data);
+  ASSERT_EQ(p.size(), 32772u);
+  s.insert(s.end(), p.begin(), p.end());
+  Splitter sp;
+  EXPECT_TRUE(sp.feed(std::span(s).first(s.size() - 1)).empty());
+  EXPECT_LT(sp.bufferedBytes(), 2 * Splitter::kTrimThreshold);
+  EXPECT_EQ(sp.feed(std::span(s).last(1)), (Packets{{0x70, data}}));
+  EXPECT_EQ(sp.bufferedBytes(), 0u);
+}
+
+struct JunkCase {
+  const char* name;
+  Bytes pattern;
+};
+
+std::ostream& operator<<(std::ostream& os, const JunkCase& c) { return os << c.name; }
+
+class SplitterJunkTest : public ::testing::TestWithParam<JunkCase> {};
+
+// Neither pattern ever forms an agreeing packet, so nothing comes out; the
+// buffer stays bounded; a packet after it is found.
+TEST_P(SplitterJunkTest, EndlessJunkKeepsMemoryBounded) {
+  const Bytes& pattern = GetParam().pattern;
+  Bytes block;
+  while (block.size() < 4096) block.insert(block.end(), pattern.begin(), pattern.end());
+  Splitter sp;
+  Packets got;
+  size_t most = 0;
+  for (size_t total = 0; total < (10u << 20); total += block.size()) {
+    sp.feed(block, got);
+    most = std::max(most, sp.bufferedBytes());
+  }
+  EXPECT_TRUE(got.empty());
+  EXPECT_LT(most, 4 * Splitter::kTrimThreshold);
+  // Out of reach of every junk start byte, a packet comes out whole.
+  sp.feed(Bytes(40000, 0), got);
+  sp.feed(pkt(0x99, {2, 0x0D, 0x0A}), got);
+  EXPECT_EQ(got, (Packets{{0x99, {2, 0x0D, 0x0A}}}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Framing, SplitterJunkTest,
+                         ::testing::Values(JunkCase{"StartsAndEndMarks",
+                                                    {2, 0x7F, 0xFF, 0x0D, 0x0A, 2, 0, 5}},
+                                           JunkCase{"StartsOnly", {2, 0x7F, 0xFF, 2, 0, 5}},
+                                           JunkCase{"EndMarksOnly", {0x0D, 0x0A, 0x0D}}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+// ---------------------------------------------------------- classification
+
+struct ClassCase {
+  const char* name;
+  int cmd;
+  Bytes data;
+  CmdType type;
+  const char* word;
+};
+
+std::ostream& operator<<(std::ostream& os, const ClassCase& c) { return os << c.name; }
+
+class CheckCommandTypeTest : public ::testing::TestWithParam<ClassCase> {};
+
+TEST_P(CheckCommandTypeTest, Classifies) {
+  const ClassCase& c = GetParam();
+  EXPECT_EQ(checkCommandType(c.cmd, c.data), c.type);
+  EXPECT_STREQ(cmdTypeWord(checkCommandType(c.cmd, c.data)), c.word);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Framing, CheckCommandTypeTest,
+    ::testing::Values(
+        ClassCase{"StartCan", START_CAN, {1, 2}, CmdType::Streaming, "streaming"},
+        ClassCase{"UartReading", START_UART_READING, {}, CmdType::Streaming, "streaming"},
+        ClassCase{"AiStreaming", START_AI_STREAMING, {0}, CmdType::Streaming, "streaming"},
+        ClassCase{"AiVariable", START_AI_STREAMING_VARIABLE, {1}, CmdType::Streaming, "streaming"},
+        ClassCase{"AoStreaming", START_AO_STREAMING, {}, CmdType::Streaming, "streaming"},
+        ClassCase{"MotionMonitoring", START_MOTION_MONITORING, {}, CmdType::Streaming, "streaming"},
+        ClassCase{"AhrsStart", AHRS_START, {5}, CmdType::Streaming, "streaming"},
+        ClassCase{"DeviceInfoAnswer", GET_DEVICE_INFO, {1, 9}, CmdType::Broadcast, "broadcast"},
+        ClassCase{"SetIpAnswer", CHECK_MAC_AND_SET_IP, {1}, CmdType::Broadcast, "broadcast"},
+        ClassCase{"RebootAnswer", CHECK_MAC_AND_REBOOT, {1, 0}, CmdType::Broadcast, "broadcast"},
+        ClassCase{"DeviceInfoOther", GET_DEVICE_INFO, {0, 1}, CmdType::Ignore, "ignore"},
+        ClassCase{"RebootTwo", CHECK_MAC_AND_REBOOT, {2}, CmdType::Ignore, "ignore"},
+        ClassCase{"BroadcastEmpty", CHECK_MAC_AND_SET_IP, {}, CmdType::Ignore, "ignore"},
+        ClassCase{"DriverInfo", GET_DRIVER_INFO, {1}, CmdType::Echo, "echo"},
+        ClassCase{"Motion", MOTION, {1, 2, 3}, CmdType::Echo, "echo"},
+        ClassCase{"OpenCan", OPEN_CAN, {}, CmdType::Echo, "echo"},
+        ClassCase{"NextToAhrs", AHRS_START - 1, {1}, CmdType::Echo, "echo"},
+        ClassCase{"Zero", 0, {}, CmdType::Echo, "echo"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+}  // namespace
+}  // namespace orv

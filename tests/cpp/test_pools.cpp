@@ -1,0 +1,173 @@
+// Pools and routing: what the receive threads store and how waiters wake.
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <thread>
+
+#include "link/device.hpp"
+#include "link/error.hpp"
+
+using namespace orv;
+using namespace std::chrono_literals;
+
+namespace {
+
+// A device with no link: only its pools and routing are used.
+class PoolDevice : public Device {
+ public:
+  PoolDevice() : Device("PoolDevice") {}
+  void close(bool) override {}
+  void disconnect(bool) override {}
+};
+
+TEST(EchoPool, WaiterWakesAtOnceWhenTheReplyArrives) {
+  EchoPool pool;
+  std::thread t([&] {
+    std::this_thread::sleep_for(20ms);
+    pool.put(240, {1, 2});
+  });
+  Bytes out;
+  auto start = Clock::now();
+  auto r = pool.waitPop(240, Clock::now() + 5s, out, nullptr);
+  auto took = Clock::now() - start;
+  t.join();
+  EXPECT_EQ(r, EchoPool::WaitResult::Taken);
+  EXPECT_EQ(out, (Bytes{1, 2}));
+  EXPECT_LT(took, 2s);  // far below the 5 s limit: woken, not timed out
+  EXPECT_FALSE(pool.contains(240));
+}
+
+TEST(EchoPool, PresentReplyIsTakenWithoutWaitingAndLatestWins) {
+  EchoPool pool;
+  pool.put(7, {1});
+  pool.put(7, {2});
+  Bytes out;
+  EXPECT_EQ(pool.waitPop(7, Clock::now(), out, nullptr), EchoPool::WaitResult::Taken);
+  EXPECT_EQ(out, Bytes{2});
+  EXPECT_EQ(pool.waitPop(7, Clock::now() + 10ms, out, nullptr), EchoPool::WaitResult::TimedOut);
+}
+
+TEST(EchoPool, CancelAndCloseWakeWaiters) {
+  EchoPool pool;
+  CancelToken tok;
+  Bytes out;
+  std::thread t([&] {
+    std::this_thread::sleep_for(20ms);
+    tok.cancel();
+  });
+  EXPECT_EQ(pool.waitPop(1, Clock::time_point::max(), out, &tok), EchoPool::WaitResult::Cancelled);
+  t.join();
+  std::thread t2([&] {
+    std::this_thread::sleep_for(20ms);
+    pool.close();
+  });
+  EXPECT_EQ(pool.waitPop(1, Clock::time_point::max(), out, nullptr), EchoPool::WaitResult::Closed);
+  t2.join();
+}
+
+TEST(StreamQueue, WaitSizeAndBound) {
+  StreamQueue q(2);
+  EXPECT_TRUE(q.push({1}));
+  EXPECT_TRUE(q.push({2}));
+  EXPECT_FALSE(q.push({3}));  // full: dropped, never blocks
+  EXPECT_TRUE(q.waitSize(2));
+  EXPECT_EQ(*q.tryPop(), Bytes{1});
+  std::thread t([&] { q.push({4}); });
+  EXPECT_TRUE(q.waitSize(2));
+  t.join();
+  q.close();
+  EXPECT_FALSE(q.waitSize(10));
+}
+
+struct RouteCase {
+  const char* name;
+  int cmd;
+  Bytes data;
+  StreamKey key;
+  Bytes stored;
+};
+
+class StreamRouting : public ::testing::TestWithParam<RouteCase> {};
+
+TEST_P(StreamRouting, KeyAndStoredBytes) {
+  PoolDevice d;
+  const auto& c = GetParam();
+  d.putToDataPool(c.cmd, c.data);
+  auto keys = d.streamPool().keys();
+  ASSERT_EQ(keys.size(), 1u);
+  EXPECT_EQ(keys[0], c.key);
+  EXPECT_EQ(*d.streamPool().get(c.key)->tryPop(), c.stored);
+  EXPECT_EQ(d.echoPool().size(), 0u);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Link, StreamRouting,
+    ::testing::Values(
+        RouteCase{"ai", START_AI_STREAMING, {3, 1, 9, 8}, StreamKey::triple(183, 3, 1), {9, 8}},
+        RouteCase{"ai_var", START_AI_STREAMING_VARIABLE, {3, 1, 9}, StreamKey::triple(190, 0, 0), {9}},
+        RouteCase{"can", START_CAN, {1, 0, 5, 6}, StreamKey::one(49), {5, 6}},
+        RouteCase{"ahrs", AHRS_START, {1, 5, 6}, StreamKey::one(9217), {5, 6}},
+        RouteCase{"uart", START_UART_READING, {2, 0, 65}, StreamKey::pair(129, 2), {65}},
+        RouteCase{"ao", START_AO_STREAMING, {1, 2}, StreamKey::one(8265), {1, 2}},
+        RouteCase{"motion_mon", START_MOTION_MONITORING, {4}, StreamKey::one(7216), {4}}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(Routing, MotionRepliesAreKeyedByConnectorCommandAndAxis) {
+  PoolDevice d;
+  d.putToDataPool(MOTION, {1, 0x20, 0, 0xAA});
+  d.putToDataPool(MOTION, {1, 0x20, 1, 0xBB});
+  EXPECT_EQ(d.echoPool().size(), 2u);
+  const Bytes req0{1, 0x20, 0}, req1{1, 0x20, 1};
+  EXPECT_NE(Device::echoKey(MOTION, req0), Device::echoKey(MOTION, req1));
+  // [axis, connector, motion_cmd, 208] as a signed big-endian word
+  EXPECT_EQ(Device::echoKey(MOTION, req1), (1 << 24) | (1 << 16) | (0x20 << 8) | 208);
+  EXPECT_EQ(Device::echoKey(MOTION, Bytes{0x80, 0, 0}), static_cast<int32_t>(0x008000D0));
+  EXPECT_EQ(Device::echoKey(MOTION, Bytes{0, 0, 0x80}), static_cast<int32_t>(0x800000D0));
+  // The stored reply keeps its three leading bytes.
+  EXPECT_EQ(*d.echoPool().pop(Device::echoKey(MOTION, req1)), (Bytes{1, 0x20, 1, 0xBB}));
+  EXPECT_THROW(d.putToDataPool(MOTION, {1, 2}), IndexError);
+}
+
+TEST(Routing, BroadcastAnswersAreASetAndOtherFirstBytesAreIgnored) {
+  PoolDevice d;
+  for (int i = 0; i < 3; ++i) d.putToDataPool(GET_DEVICE_INFO, {1, 127, 0, 0, 1});
+  d.putToDataPool(GET_DEVICE_INFO, {0, 9});
+  d.putToDataPool(CHECK_MAC_AND_REBOOT, {2, 0, 0});
+  EXPECT_EQ(d.bcstPool().get(GET_DEVICE_INFO), (std::set<Bytes>{{127, 0, 0, 1}}));
+  EXPECT_EQ(d.bcstPool().size(CHECK_MAC_AND_REBOOT), 0u);
+  EXPECT_EQ(d.echoPool().size(), 0u);
+}
+
+TEST(Routing, EchoKeepsTheLatestReplyPerCommand) {
+  PoolDevice d;
+  d.putToDataPool(240, {1});
+  d.putToDataPool(240, {2});
+  d.putToDataPool(122, {});
+  EXPECT_EQ(d.echoPool().size(), 2u);
+  EXPECT_EQ(*d.echoPool().pop(240), Bytes{2});
+  EXPECT_EQ(*d.echoPool().pop(122), Bytes{});
+}
+
+TEST(Errors, TableCodesMessagesAndFirmwareMap) {
+  EXPECT_EQ(Error(ErrorId::ReceivePacketTimeoutError).what(),
+            std::string("Error -8004: Receive packet timeout."));
+  EXPECT_EQ(Error(ErrorId::NetworkConnectionLostError, "gone").code(), -8003);
+  EXPECT_EQ(Error(ErrorId::MRDRPortNotAvaliable).code(), -8900);
+  EXPECT_EQ(checkFirmwareError(0), 0);
+  struct {
+    int status;
+    int code;
+  } cases[] = {{10, -7000}, {13, -7003}, {27, -7011}, {40, -7012}, {57, -7022},
+               {73, -7026}, {80, -7027}, {1, -7028},  {255, -7028}, {14, -7028}};
+  for (auto c : cases) {
+    try {
+      checkFirmwareError(c.status);
+      ADD_FAILURE() << "status " << c.status << " did not raise";
+    } catch (const Error& e) {
+      EXPECT_EQ(e.code(), c.code) << "status " << c.status;
+    }
+  }
+  EXPECT_EQ(Error(firmwareErrorFor(13)).msg(), "The HAL error in the firmware.");
+}
+
+}  // namespace

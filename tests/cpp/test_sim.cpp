@@ -1,0 +1,732 @@
+// The device simulator seen from outside: plain sockets and the USB seam.
+#include <arpa/inet.h>
+#include <dirent.h>
+#include <netinet/in.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstring>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "gtest/gtest.h"
+#include "link/constants.hpp"
+#include "link/framing.hpp"
+#include "link/usb_backend.hpp"
+#include "sim/simulator.hpp"
+
+namespace {
+
+using namespace std::chrono_literals;
+using orv::Bytes;
+using orv::RawPacket;
+using orv::sim::Channel;
+using orv::sim::DeviceConfig;
+using orv::sim::Link;
+using orv::sim::Simulator;
+using Clock = std::chrono::steady_clock;
+
+constexpr int GET_SERIAL_NUMBER = 122;
+constexpr int CLOSE_AI_STREAMING = 184;
+
+Bytes frame(int cmd, const Bytes& data) {
+  return orv::preparePacket(cmd, std::span<const uint8_t>(data));
+}
+
+Bytes text(std::string_view s) { return Bytes(s.begin(), s.end()); }
+
+// A TCP client made of plain sockets.
+class RawTcp {
+ public:
+  explicit RawTcp(int port) {
+    fd_ = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_in a{};
+    a.sin_family = AF_INET;
+    a.sin_port = htons(static_cast<uint16_t>(port));
+    a.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    if (::connect(fd_, reinterpret_cast<sockaddr*>(&a), sizeof a) != 0) {
+      ::close(fd_);
+      fd_ = -1;
+    }
+  }
+  ~RawTcp() {
+    if (fd_ >= 0) ::close(fd_);
+  }
+  bool ok() const { return fd_ >= 0; }
+
+  void send(const Bytes& b) const {
+    ASSERT_EQ(::send(fd_, b.data(), b.size(), MSG_NOSIGNAL), static_cast<ssize_t>(b.size()));
+  }
+
+  // One recv, waiting at most `timeout`; nullopt on timeout, empty on EOF.
+  std::optional<Bytes> recvOnce(std::chrono::milliseconds timeout) const {
+    pollfd p{fd_, POLLIN, 0};
+    if (::poll(&p, 1, static_cast<int>(timeout.count())) <= 0) return std::nullopt;
+    Bytes b(65536);
+    const ssize_t n = ::recv(fd_, b.data(), b.size(), 0);
+    b.resize(n > 0 ? static_cast<size_t>(n) : 0);
+    return b;
+  }
+
+  // Exactly n bytes, or fewer when the time runs out or the peer closes.
+  Bytes readBytes(size_t n, std::chrono::milliseconds timeout = 2000ms) const {
+    Bytes out;
+    const auto end = Clock::now() + timeout;
+    while (out.size() < n) {
+      const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now());
+      if (left.count() <= 0) break;
+      pollfd p{fd_, POLLIN, 0};
+      if (::poll(&p, 1, static_cast<int>(left.count())) <= 0) break;
+      uint8_t buf[4096];
+      const ssize_t r = ::recv(fd_, buf, std::min(sizeof buf, n - out.size()), 0);
+      if (r <= 0) break;
+      out.insert(out.end(), buf, buf + r);
+    }
+    return out;
+  }
+
+  // Packets, cut by the splitter, until `count` arrived or the time ran out.
+  std::vector<RawPacket> readPackets(size_t count, std::chrono::milliseconds timeout = 2000ms) {
+    const auto end = Clock::now() + timeout;
+    while (pending_.size() < count) {
+      const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now());
+      if (left.count() <= 0) break;
+      auto b = recvOnce(left);
+      if (!b || b->empty()) break;
+      splitter_.feed(*b, pending_);
+    }
+    std::vector<RawPacket> out;
+    const size_t n = std::min(count, pending_.size());
+    out.assign(pending_.begin(), pending_.begin() + static_cast<long>(n));
+    pending_.erase(pending_.begin(), pending_.begin() + static_cast<long>(n));
+    return out;
+  }
+
+  // True when the peer ended the stream within the time.
+  bool seesEof(std::chrono::milliseconds timeout = 2000ms) const {
+    const auto end = Clock::now() + timeout;
+    while (Clock::now() < end) {
+      auto b = recvOnce(std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now()));
+      if (b && b->empty()) return true;
+    }
+    return false;
+  }
+
+ private:
+  int fd_ = -1;
+  orv::Splitter splitter_;
+  std::vector<RawPacket> pending_;
+};
+
+// A UDP socket on 127.0.0.1 and an ephemeral port.
+class RawUdp {
+ public:
+  RawUdp() {
+    fd_ = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    sockaddr_in a{};
+    a.sin_family = AF_INET;
+    a.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    ::bind(fd_, reinterpret_cast<sockaddr*>(&a), sizeof a);
+    socklen_t len = sizeof a;
+    ::getsockname(fd_, reinterpret_cast<sockaddr*>(&a), &len);
+    port_ = ntohs(a.sin_port);
+  }
+  ~RawUdp() { ::close(fd_); }
+  int port() const { return port_; }
+  void sendTo(int port, const Bytes& b) const {
+    sockaddr_in a{};
+    a.sin_family = AF_INET;
+    a.sin_port = htons(static_cast<uint16_t>(port));
+    a.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    ::sendto(fd_, b.data(), b.size(), 0, reinterpret_cast<sockaddr*>(&a), sizeof a);
+  }
+  // Answers (one packet per datagram) until `timeout` passes without one.
+  std::vector<RawPacket> collect(std::chrono::milliseconds quiet = 150ms) const {
+    std::vector<RawPacket> out;
+    for (;;) {
+      pollfd p{fd_, POLLIN, 0};
+      if (::poll(&p, 1, static_cast<int>(quiet.count())) <= 0) return out;
+      uint8_t buf[2048];
+      const ssize_t n = ::recv(fd_, buf, sizeof buf, 0);
+      if (n <= 0) return out;
+      orv::Splitter s;
+      s.feed(std::span<const uint8_t>(buf, static_cast<size_t>(n)), out);
+    }
+  }
+
+ private:
+  int fd_ = -1;
+  int port_ = 0;
+};
+
+DeviceConfig ethConfig(std::string driver_info = "Trellis_SIM_1.2.3") {
+  DeviceConfig c;
+  c.driver_info = std::move(driver_info);
+  return c;
+}
+
+// --- one request -------------------------------------------------------------
+
+TEST(SimTcp, DriverInfoAndSerialAnswerWithExactBytes) {
+  Simulator sim;
+  auto& dev = sim.addDevice(ethConfig());
+  RawTcp c(dev.cmdPort());
+  ASSERT_TRUE(c.ok());
+  c.send({0x02, 0x00, 0x02, 0xF0, 0x00, 0x0D, 0x0A});
+  const std::string info = "Trellis_SIM_1.2.3";
+  Bytes want{0x02, 0x00, static_cast<uint8_t>(info.size() + 1), 0xF0};
+  want.insert(want.end(), info.begin(), info.end());
+  want.insert(want.end(), {0x0D, 0x0A});
+  EXPECT_EQ(c.readBytes(want.size()), want);
+
+  c.send(frame(GET_SERIAL_NUMBER, {}));
+  const Bytes serial = frame(GET_SERIAL_NUMBER, text("SIM00001"));
+  EXPECT_EQ(c.readBytes(serial.size()), serial);
+}
+
+TEST(SimTcp, RecordsEveryPacketInOrderWithItsLink) {
+  Simulator sim;
+  auto& dev = sim.addDevice(ethConfig());
+  RawTcp c(dev.cmdPort());
+  ASSERT_TRUE(c.ok());
+  // Three packets in one write: a two-byte command, a payload holding an end
+  // mark and a start byte, and a command nobody handles.
+  Bytes burst = frame(orv::AHRS_START, {});
+  const Bytes tricky{0x01, 0x0D, 0x0A, 0x02, 0x00};
+  const Bytes a = frame(200, tricky), b = frame(77, {9, 8, 7});
+  burst.insert(burst.end(), a.begin(), a.end());
+  burst.insert(burst.end(), b.begin(), b.end());
+  const auto t0 = Clock::now();
+  c.send(burst);
+  ASSERT_TRUE(dev.waitForPackets(3, 2s));
+  const auto got = dev.packets();
+  ASSERT_EQ(got.size(), 3u);
+  EXPECT_EQ(got[0].cmd, orv::AHRS_START);
+  EXPECT_TRUE(got[0].data.empty());
+  EXPECT_EQ(got[1].cmd, 200);
+  EXPECT_EQ(got[1].data, tricky);
+  EXPECT_EQ(got[2].cmd, 77);
+  EXPECT_EQ(got[2].data, (Bytes{9, 8, 7}));
+  for (const auto& r : got) {
+    EXPECT_EQ(r.channel, Channel::Cmd);
+    EXPECT_GE(r.time, t0);
+  }
+  // Unhandled commands are silent.
+  EXPECT_FALSE(c.recvOnce(100ms).has_value());
+  dev.clearPackets();
+  EXPECT_EQ(dev.packetCount(), 0u);
+}
+
+TEST(SimTcp, OverrideAndFallbackHandlers) {
+  Simulator sim;
+  auto& dev = sim.addDevice(ethConfig());
+  RawTcp c(dev.cmdPort());
+  ASSERT_TRUE(c.ok());
+  dev.setHandler(orv::GET_DRIVER_INFO, [](orv::sim::Context& ctx, const orv::sim::Request& req) {
+    ctx.reply(Bytes{0xAB, static_cast<uint8_t>(req.data.size())});
+  });
+  dev.setFallbackHandler([](orv::sim::Context& ctx, const orv::sim::Request& req) {
+    ctx.reply(req.cmd + 1, req.data);
+  });
+  c.send(frame(orv::GET_DRIVER_INFO, {0}));
+  EXPECT_EQ(c.readBytes(8), frame(orv::GET_DRIVER_INFO, {0xAB, 1}));
+  c.send(frame(300, {5, 6}));
+  EXPECT_EQ(c.readBytes(9), frame(301, {5, 6}));
+  // Removing the override brings the built-in answer back.
+  dev.setHandler(orv::GET_DRIVER_INFO, nullptr);
+  c.send(frame(orv::GET_DRIVER_INFO, {0}));
+  EXPECT_EQ(c.readBytes(23), frame(orv::GET_DRIVER_INFO, text("Trellis_SIM_1.2.3")));
+}
+
+TEST(SimTcp, NewConnectionReplacesTheOldOne) {
+  Simulator sim;
+  auto& dev = sim.addDevice(ethConfig());
+  RawTcp first(dev.cmdPort());
+  ASSERT_TRUE(first.ok());
+  first.send(frame(GET_SERIAL_NUMBER, {}));
+  ASSERT_EQ(first.readPackets(1).size(), 1u);
+  RawTcp second(dev.cmdPort());
+  ASSERT_TRUE(second.ok());
+  EXPECT_TRUE(first.seesEof());
+  second.send(frame(GET_SERIAL_NUMBER, {}));
+  const auto p = second.readPackets(1);
+  ASSERT_EQ(p.size(), 1u);
+  EXPECT_EQ(p[0].data, text("SIM00001"));
+}
+
+// --- handler registry --------------------------------------------------------
+
+constexpr int kTestCmd = 4001;
+
+struct Tally {
+  int calls = 0;
+};
+
+// A module file registers its handlers like this.
+const orv::sim::Registrar test_module{kTestCmd,
+                                      [](orv::sim::Context& ctx, const orv::sim::Request&) {
+                                        const int n = ++ctx.state().slot<Tally>()->calls;
+                                        ctx.reply(Bytes{static_cast<uint8_t>(n)});
+                                      }};
+
+TEST(SimRegistry, ModuleHandlersServeEveryDeviceAndKeepPerDeviceState) {
+  Simulator sim;
+  auto& a = sim.addDevice(ethConfig());
+  DeviceConfig cb = ethConfig();
+  cb.serial = "SIM00002";
+  auto& b = sim.addDevice(cb);
+  RawTcp ca(a.cmdPort()), cbc(b.cmdPort());
+  ASSERT_TRUE(ca.ok() && cbc.ok());
+  for (int i = 0; i < 3; ++i) ca.send(frame(kTestCmd, {}));
+  cbc.send(frame(kTestCmd, {}));
+  const auto ra = ca.readPackets(3);
+  ASSERT_EQ(ra.size(), 3u);
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(ra[static_cast<size_t>(i)].cmd, kTestCmd);
+    EXPECT_EQ(ra[static_cast<size_t>(i)].data, Bytes{static_cast<uint8_t>(i + 1)});
+  }
+  const auto rb = cbc.readPackets(1);
+  ASSERT_EQ(rb.size(), 1u);
+  EXPECT_EQ(rb[0].data, Bytes{1});
+  EXPECT_EQ(a.state().slot<Tally>()->calls, 3);
+}
+
+TEST(SimRegistry, ModulePriorityWinsOverCoreWhateverTheOrder) {
+  constexpr int cmd = 4002;
+  auto tag = [](uint8_t t) {
+    return [t](orv::sim::Context& ctx, const orv::sim::Request&) { ctx.reply(Bytes{t}); };
+  };
+  orv::sim::registerHandler(cmd, tag(1), orv::sim::kModulePriority);
+  orv::sim::registerHandler(cmd, tag(2), orv::sim::kCorePriority);
+  constexpr int cmd2 = 4003;
+  orv::sim::registerHandler(cmd2, tag(2), orv::sim::kCorePriority);
+  orv::sim::registerHandler(cmd2, tag(1), orv::sim::kModulePriority);
+
+  Simulator sim;
+  auto& dev = sim.addDevice(ethConfig());
+  RawTcp c(dev.cmdPort());
+  ASSERT_TRUE(c.ok());
+  c.send(frame(cmd, {}));
+  c.send(frame(cmd2, {}));
+  const auto r = c.readPackets(2);
+  ASSERT_EQ(r.size(), 2u);
+  EXPECT_EQ(r[0].data, Bytes{1});
+  EXPECT_EQ(r[1].data, Bytes{1});
+}
+
+// --- faults ------------------------------------------------------------------
+
+class SimFaults : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    dev_ = &sim_.addDevice(ethConfig());
+    client_ = std::make_unique<RawTcp>(dev_->cmdPort());
+    ASSERT_TRUE(client_->ok());
+  }
+  Bytes ask() {
+    client_->send(frame(GET_SERIAL_NUMBER, {}));
+    return client_->readBytes(reply_.size(), 2s);
+  }
+  Simulator sim_;
+  orv::sim::SimDevice* dev_ = nullptr;
+  std::unique_ptr<RawTcp> client_;
+  const Bytes reply_ = frame(GET_SERIAL_NUMBER, text("SIM00001"));
+};
+
+TEST_F(SimFaults, DropSwallowsTheNextReplies) {
+  dev_->faults().drop_next = 2;
+  client_->send(frame(GET_SERIAL_NUMBER, {}));
+  client_->send(frame(GET_SERIAL_NUMBER, {}));
+  client_->send(frame(GET_SERIAL_NUMBER, {}));
+  ASSERT_TRUE(dev_->waitForPackets(3, 2s));
+  EXPECT_EQ(client_->readBytes(reply_.size()), reply_);
+  EXPECT_FALSE(client_->recvOnce(100ms).has_value());
+  EXPECT_EQ(dev_->faults().drop_next.load(), 0);
+}
+
+TEST_F(SimFaults, DelayHoldsEachReplyBack) {
+  dev_->faults().delay_us = 60000;
+  const auto t0 = Clock::now();
+  EXPECT_EQ(ask(), reply_);
+  EXPECT_GE(Clock::now() - t0, 60ms);
+  dev_->faults().delay_us = 0;
+  EXPECT_EQ(ask(), reply_);
+}
+
+TEST_F(SimFaults, CorruptBreaksTheLengthOfTheNextReplyOnly) {
+  dev_->faults().corrupt_next = 1;
+  Bytes bad = ask();
+  ASSERT_EQ(bad.size(), reply_.size());
+  EXPECT_EQ(bad[1], reply_[1] | 0x80);
+  bad[1] = reply_[1];
+  EXPECT_EQ(bad, reply_);
+  EXPECT_EQ(ask(), reply_);
+  // A receiver drops the broken one and takes the good one after it.
+  Bytes both = reply_;
+  both[1] |= 0x80;
+  both.insert(both.end(), reply_.begin(), reply_.end());
+  orv::Splitter s;
+  const auto pk = s.feed(both);
+  ASSERT_EQ(pk.size(), 1u);
+  EXPECT_EQ(pk[0].data, text("SIM00001"));
+}
+
+TEST_F(SimFaults, SplitWritesPiecesWithPauses) {
+  dev_->faults().split_pause_us = 20000;
+  dev_->faults().split_bytes = 4;  // 13 bytes: 4 pieces, 3 pauses
+  const auto t0 = Clock::now();
+  EXPECT_EQ(ask(), reply_);
+  EXPECT_GE(Clock::now() - t0, 60ms);
+}
+
+TEST_F(SimFaults, JunkGoesAheadOfEachReply) {
+  dev_->faults().junk_bytes = 5;
+  Bytes want(5, 0xEE);
+  want.insert(want.end(), reply_.begin(), reply_.end());
+  client_->send(frame(GET_SERIAL_NUMBER, {}));
+  EXPECT_EQ(client_->readBytes(want.size()), want);
+  client_->send(frame(GET_SERIAL_NUMBER, {}));
+  EXPECT_EQ(client_->readBytes(want.size()), want);
+}
+
+TEST_F(SimFaults, NeverAnswerIgnoresOneCommand) {
+  dev_->faults().neverAnswer(GET_SERIAL_NUMBER);
+  client_->send(frame(GET_SERIAL_NUMBER, {}));
+  ASSERT_TRUE(dev_->waitForPackets(1, 2s));
+  EXPECT_FALSE(client_->recvOnce(100ms).has_value());
+  client_->send(frame(orv::GET_DRIVER_INFO, {0}));
+  EXPECT_EQ(client_->readPackets(1).size(), 1u);
+  dev_->faults().answerAgain(GET_SERIAL_NUMBER);
+  EXPECT_EQ(ask(), reply_);
+}
+
+TEST_F(SimFaults, CloseLinkEndsTheConnectionAndTheDeviceTakesANewOne) {
+  EXPECT_EQ(ask(), reply_);
+  EXPECT_TRUE(dev_->hostConnected());
+  dev_->closeLink();
+  EXPECT_TRUE(client_->seesEof());
+  EXPECT_FALSE(dev_->send(orv::GET_DRIVER_INFO, {1}));
+  client_ = std::make_unique<RawTcp>(dev_->cmdPort());
+  ASSERT_TRUE(client_->ok());
+  EXPECT_EQ(ask(), reply_);
+  EXPECT_TRUE(dev_->send(orv::GET_DRIVER_INFO, {1}));
+  EXPECT_EQ(client_->readBytes(7), frame(orv::GET_DRIVER_INFO, {1}));
+}
+
+// --- Wi-Fi: two links --------------------------------------------------------
+
+TEST(SimWifi, StreamsOnTheDataLinkWhileCommandsAnswerOnTheCommandLink) {
+  Simulator sim;
+  DeviceConfig cfg = ethConfig("HeronAinImu_SIM");
+  cfg.link = Link::Wifi;
+  auto& dev = sim.addDevice(cfg);
+  ASSERT_NE(dev.cmdPort(), dev.dataPort());
+  RawTcp data(dev.dataPort()), cmd(dev.cmdPort());
+  ASSERT_TRUE(data.ok() && cmd.ok());
+  ASSERT_TRUE(dev.waitForHost(Channel::Data, 2s));
+
+  // port 1, cs 2, 2000 records/s, 8 payload bytes
+  cmd.send(frame(orv::START_AI_STREAMING, {1, 2, 0x07, 0xD0, 8}));
+  const auto recs = data.readPackets(20, 5s);
+  ASSERT_EQ(recs.size(), 20u);
+  uint8_t next = recs[0].data[2];
+  for (const auto& r : recs) {
+    EXPECT_EQ(r.cmd, orv::START_AI_STREAMING);
+    ASSERT_EQ(r.data.size(), 10u);
+    EXPECT_EQ(r.data[0], 1);
+    EXPECT_EQ(r.data[1], 2);
+    for (size_t i = 2; i < r.data.size(); ++i) EXPECT_EQ(r.data[i], next++);
+  }
+  cmd.send(frame(orv::GET_DRIVER_INFO, {0}));
+  const auto info = cmd.readPackets(1);
+  ASSERT_EQ(info.size(), 1u);
+  EXPECT_EQ(info[0].data, text("HeronAinImu_SIM"));
+
+  cmd.send(frame(CLOSE_AI_STREAMING, {1}));
+  const auto closed = cmd.readPackets(1);
+  ASSERT_EQ(closed.size(), 1u);
+  EXPECT_EQ(closed[0].cmd, CLOSE_AI_STREAMING);
+  EXPECT_EQ(closed[0].data, (Bytes{1, 0}));
+  EXPECT_EQ(dev.periodicCount(), 0u);
+  // What was written before the stop drains; nothing follows it.
+  while (!data.readPackets(1000, 100ms).empty()) {
+  }
+  EXPECT_FALSE(data.recvOnce(100ms).has_value());
+
+  // Unsolicited packets: streaming commands take the data link.
+  EXPECT_TRUE(dev.send(orv::START_CAN, {0, 0, 5}));
+  EXPECT_TRUE(dev.send(99, {7}));
+  EXPECT_EQ(data.readBytes(9), frame(orv::START_CAN, {0, 0, 5}));
+  EXPECT_EQ(cmd.readBytes(7), frame(99, {7}));
+
+  const auto got = dev.packets();
+  ASSERT_EQ(got.size(), 3u);
+  for (const auto& r : got) EXPECT_EQ(r.channel, Channel::Cmd);
+}
+
+TEST(SimWifi, BurstFasterThanRealTimeArrivesWholeAndInOrder) {
+  Simulator sim;
+  DeviceConfig cfg;
+  cfg.link = Link::Wifi;
+  auto& dev = sim.addDevice(cfg);
+  RawTcp data(dev.dataPort()), cmd(dev.cmdPort());
+  ASSERT_TRUE(data.ok() && cmd.ok());
+  ASSERT_TRUE(dev.waitForHost(Channel::Data, 2s));
+  dev.faults().junk_bytes = 3;  // write faults hit streams as well
+  constexpr size_t kCount = 2000;
+  EXPECT_EQ(dev.streamRecords(orv::START_AI_STREAMING, {0, 1}, kCount, 0, 32), kCount);
+  const auto recs = data.readPackets(kCount, 10s);
+  ASSERT_EQ(recs.size(), kCount);
+  uint8_t next = recs[0].data[2];
+  for (const auto& r : recs) {
+    ASSERT_EQ(r.data.size(), 34u);
+    for (size_t i = 2; i < r.data.size(); ++i) ASSERT_EQ(r.data[i], next++);
+  }
+}
+
+// --- virtual USB -------------------------------------------------------------
+
+std::unique_ptr<orv::usb::Candidate> findUsb(const std::string& serial) {
+  for (const auto& b : orv::usb::extraBackends()) {
+    for (auto& c : b->enumerate()) {
+      if (c->serialNumber() == serial) return std::move(c);
+    }
+  }
+  return nullptr;
+}
+
+Bytes readTransfer(orv::usb::Handle& h) {
+  uint8_t buf[64];
+  const int n = h.bulkRead(orv::USB_EP_IN, buf, 64, 1000);
+  return Bytes(buf, buf + n);
+}
+
+TEST(SimUsb, AnswersIn64ByteZeroPaddedTransfers) {
+  Simulator sim;
+  DeviceConfig cfg = ethConfig(std::string(100, 'x'));  // a reply of 2 transfers
+  cfg.link = Link::Usb;
+  cfg.model = "KestrelAio";
+  cfg.serial = "USB00042";
+  sim.addDevice(cfg);
+  auto cand = findUsb("USB00042");
+  ASSERT_NE(cand, nullptr);
+  EXPECT_EQ(cand->idVendor(), orv::USB_VID);
+  EXPECT_EQ(cand->idProduct(), orv::USB_PID);
+  EXPECT_EQ(cand->productName(), "KestrelAio");
+  auto h = cand->open();
+  EXPECT_FALSE(h->kernelDriverActive(0));
+  EXPECT_EQ(h->serialNumber(), "USB00042");
+  EXPECT_THROW(h->bulkRead(orv::USB_EP_IN, nullptr, 64, 5), orv::usb::Timeout);
+
+  Bytes out = frame(orv::GET_DRIVER_INFO, {0});
+  out.resize(64, 0);
+  h->bulkWrite(orv::USB_EP_OUT, out.data(), 64);
+  Bytes want = frame(orv::GET_DRIVER_INFO, text(std::string(100, 'x')));  // 106 bytes
+  want.resize(128, 0);
+  Bytes got = readTransfer(*h);
+  ASSERT_EQ(got.size(), 64u);
+  const Bytes second = readTransfer(*h);
+  ASSERT_EQ(second.size(), 64u);
+  got.insert(got.end(), second.begin(), second.end());
+  EXPECT_EQ(got, want);
+  EXPECT_THROW(h->bulkRead(orv::USB_EP_IN, got.data(), 64, 5), orv::usb::Timeout);
+
+  // A command split over two transfers and one with padding in between.
+  Bytes serial_cmd = frame(GET_SERIAL_NUMBER, {});
+  h->bulkWrite(orv::USB_EP_OUT, serial_cmd.data(), 3);
+  h->bulkWrite(orv::USB_EP_OUT, serial_cmd.data() + 3, 3);
+  Bytes reply = readTransfer(*h);
+  Bytes want2 = frame(GET_SERIAL_NUMBER, text("USB00042"));
+  want2.resize(64, 0);
+  EXPECT_EQ(reply, want2);
+}
+
+TEST(SimUsb, ClosedLinkAndRemovalMakeTransfersFail) {
+  Simulator sim;
+  DeviceConfig cfg;
+  cfg.link = Link::Usb;
+  cfg.serial = "USB00007";
+  auto& dev = sim.addDevice(cfg);
+  auto h = findUsb("USB00007")->open();
+  EXPECT_TRUE(dev.hostConnected());
+  EXPECT_TRUE(dev.send(150, {1, 2}));
+  Bytes want = frame(150, {1, 2});
+  want.resize(64, 0);
+  EXPECT_EQ(readTransfer(*h), want);
+
+  dev.closeLink();
+  uint8_t buf[64] = {};
+  EXPECT_THROW(h->bulkRead(orv::USB_EP_IN, buf, 64, 5), orv::usb::Failure);
+  EXPECT_THROW(h->bulkWrite(orv::USB_EP_OUT, buf, 64), orv::usb::Failure);
+  EXPECT_FALSE(dev.hostConnected());
+
+  auto h2 = findUsb("USB00007")->open();  // plugged in again
+  Bytes cmd = frame(GET_SERIAL_NUMBER, {});
+  h2->bulkWrite(orv::USB_EP_OUT, cmd.data(), static_cast<int>(cmd.size()));
+  EXPECT_EQ(readTransfer(*h2).size(), 64u);
+
+  sim.removeDevice(dev);
+  EXPECT_EQ(findUsb("USB00007"), nullptr);
+  EXPECT_THROW(h2->bulkRead(orv::USB_EP_IN, buf, 64, 5), orv::usb::Failure);
+  EXPECT_THROW(h2->bulkWrite(orv::USB_EP_OUT, buf, 64), orv::usb::Failure);
+}
+
+TEST(SimUsb, BackendIsRegisteredOnlyWhileRunning) {
+  const size_t before = orv::usb::extraBackends().size();
+  {
+    Simulator sim;
+    DeviceConfig cfg;
+    cfg.link = Link::Usb;
+    sim.addDevice(cfg);
+    EXPECT_EQ(orv::usb::extraBackends().size(), before + 1);
+    sim.stop();
+    EXPECT_EQ(orv::usb::extraBackends().size(), before);
+  }
+  EXPECT_EQ(orv::usb::extraBackends().size(), before);
+}
+
+// --- discovery ---------------------------------------------------------------
+
+struct DeviceInfo {
+  std::string ip, mask, mac, model;
+};
+
+DeviceInfo parseInfo(const RawPacket& p) {
+  DeviceInfo d;
+  if (p.data.size() < 15) return d;
+  d.ip = orv::sim::formatIPv4(&p.data[1]);
+  d.mask = orv::sim::formatIPv4(&p.data[5]);
+  d.mac = orv::sim::formatMac(&p.data[9]);
+  d.model = std::string(p.data.begin() + 15, p.data.end());
+  return d;
+}
+
+TEST(SimDiscovery, AnswersForEveryNetworkDeviceAndActsOnItsMac) {
+  RawUdp host;
+  Simulator sim;
+  const int port = sim.startDiscovery("127.0.0.1", 0, host.port());
+  ASSERT_GT(port, 0);
+  EXPECT_EQ(sim.discoveryPort(), port);
+  auto& eth = sim.addDevice(orv::sim::numberedConfig("Trellis", Link::Ethernet, 1));
+  auto& wifi = sim.addDevice(orv::sim::numberedConfig("HeronAinImu", Link::Wifi, 2));
+  sim.addDevice(orv::sim::numberedConfig("KestrelAio", Link::Usb, 3));
+
+  host.sendTo(port, frame(orv::GET_DEVICE_INFO, {0}));
+  auto answers = host.collect();
+  ASSERT_EQ(answers.size(), 2u);
+  std::map<std::string, DeviceInfo> by_model;
+  for (const auto& a : answers) {
+    EXPECT_EQ(a.cmd, orv::GET_DEVICE_INFO);
+    ASSERT_FALSE(a.data.empty());
+    EXPECT_EQ(a.data[0], 1);
+    const auto d = parseInfo(a);
+    by_model[d.model] = d;
+  }
+  ASSERT_EQ(by_model.count("Trellis"), 1u);
+  ASSERT_EQ(by_model.count("HeronAinImu"), 1u);
+  EXPECT_EQ(by_model["Trellis"].ip, "127.0.0.1");
+  EXPECT_EQ(by_model["Trellis"].mask, "255.255.255.0");
+  EXPECT_EQ(by_model["Trellis"].mac, "02:4f:52:56:00:01");
+  EXPECT_EQ(by_model["HeronAinImu"].mac, "02:4f:52:56:00:02");
+  ASSERT_EQ(eth.packets().size(), 1u);
+  EXPECT_EQ(eth.packets()[0].channel, Channel::Udp);
+  EXPECT_EQ(eth.packets()[0].data, Bytes{0});
+
+  // Set the IP of the Wi-Fi device by its MAC: one answer, then the new
+  // address in the next discovery.
+  Bytes set_ip{0, 127, 0, 0, 42, 255, 255, 0, 0, 0x02, 0x4F, 0x52, 0x56, 0x00, 0x02};
+  host.sendTo(port, frame(orv::CHECK_MAC_AND_SET_IP, set_ip));
+  answers = host.collect();
+  ASSERT_EQ(answers.size(), 1u);
+  EXPECT_EQ(answers[0].cmd, orv::CHECK_MAC_AND_SET_IP);
+  EXPECT_EQ(answers[0].data, (Bytes{1, 0, 0}));
+  host.sendTo(port, frame(orv::GET_DEVICE_INFO, {0}));
+  answers = host.collect();
+  ASSERT_EQ(answers.size(), 2u);
+  for (const auto& a : answers) {
+    const auto d = parseInfo(a);
+    if (d.model == "HeronAinImu") {
+      EXPECT_EQ(d.ip, "127.0.0.42");
+      EXPECT_EQ(d.mask, "255.255.0.0");
+    } else {
+      EXPECT_EQ(d.ip, "127.0.0.1");
+    }
+  }
+  EXPECT_EQ(wifi.ipAddr(), "127.0.0.42");
+
+  // A MAC nobody has: silence.  Reboot by MAC: the host's link drops.
+  host.sendTo(port, frame(orv::CHECK_MAC_AND_REBOOT, {0, 0x02, 0x4F, 0x52, 0x56, 0x00, 0x09}));
+  EXPECT_TRUE(host.collect(200ms).empty());
+  RawTcp c(eth.cmdPort());
+  ASSERT_TRUE(c.ok());
+  ASSERT_TRUE(eth.waitForHost(Channel::Cmd, 2s));
+  host.sendTo(port, frame(orv::CHECK_MAC_AND_REBOOT, {0, 0x02, 0x4F, 0x52, 0x56, 0x00, 0x01}));
+  answers = host.collect();
+  ASSERT_EQ(answers.size(), 1u);
+  EXPECT_EQ(answers[0].data, (Bytes{1, 0, 0}));
+  EXPECT_EQ(eth.rebootCount(), 1);
+  EXPECT_EQ(wifi.rebootCount(), 0);
+  EXPECT_TRUE(c.seesEof());
+}
+
+// --- lifetime ----------------------------------------------------------------
+
+size_t threadCount() {
+  size_t n = 0;
+  DIR* d = ::opendir("/proc/self/task");
+  if (!d) return 0;
+  while (dirent* e = ::readdir(d)) {
+    if (e->d_name[0] != '.') ++n;
+  }
+  ::closedir(d);
+  return n;
+}
+
+TEST(SimLifetime, StopJoinsEveryThreadAcrossManyCycles) {
+  const size_t before = threadCount();
+  ASSERT_GT(before, 0u);
+  RawUdp host;
+  for (int i = 0; i < 50; ++i) {
+    Simulator sim;
+    auto& eth = sim.addDevice(orv::sim::numberedConfig("Trellis", Link::Ethernet, 1));
+    auto& wifi = sim.addDevice(orv::sim::numberedConfig("HeronAinImu", Link::Wifi, 2));
+    auto& usb = sim.addDevice(orv::sim::numberedConfig("KestrelAio", Link::Usb, 3));
+    const int port = sim.startDiscovery("127.0.0.1", 0, host.port());
+    RawTcp c1(eth.cmdPort()), c2(wifi.dataPort()), c3(wifi.cmdPort());
+    ASSERT_TRUE(c1.ok() && c2.ok() && c3.ok());
+    c3.send(frame(orv::START_AI_STREAMING, {0}));  // a stream left running
+    c1.send(frame(orv::GET_DRIVER_INFO, {0}));
+    ASSERT_EQ(c1.readPackets(1).size(), 1u);
+    auto h = findUsb(usb.serial())->open();
+    host.sendTo(port, frame(orv::GET_DEVICE_INFO, {0}));
+    EXPECT_GT(threadCount(), before);
+    if (i % 2) {
+      sim.stop();  // explicitly, and once more by the destructor
+    }
+  }
+  EXPECT_EQ(threadCount(), before);
+}
+
+TEST(SimLifetime, StopWakesAWriterBlockedOnAHostThatDoesNotRead) {
+  Simulator sim;
+  DeviceConfig cfg;
+  cfg.link = Link::Wifi;
+  auto& dev = sim.addDevice(cfg);
+  RawTcp data(dev.dataPort());
+  ASSERT_TRUE(data.ok());
+  ASSERT_TRUE(dev.waitForHost(Channel::Data, 2s));
+  // Far more than the socket buffers hold; nobody reads.
+  std::thread pusher([&] { dev.streamRecords(orv::START_AI_STREAMING, {0, 0}, 1000000, 0, 1000); });
+  std::this_thread::sleep_for(100ms);
+  sim.stop();
+  pusher.join();
+  EXPECT_FALSE(dev.running());
+}
+
+}  // namespace

@@ -1,0 +1,546 @@
+"""Wire conversions and argument checks exposed at module level."""
+
+import math
+import socket
+import struct
+
+import pytest
+
+import pyorv
+
+# ---------------------------------------------------------------------------
+# Bytes to numbers
+
+
+@pytest.mark.parametrize(
+    "name, data, expected",
+    [
+        ("convert2U8ToI16", [255, 255], -1),
+        ("convert2U8ToU16", [255, 255], 65535),
+        ("convert2U8ToU16", b"\x12\x34", 0x1234),
+        ("convert2U8ToU16", (0, 1), 1),
+        ("convert2U8ToU16", bytearray(b"\x01\x00"), 256),
+        ("convert4U8ToU32", [0xDE, 0xAD, 0xBE, 0xEF], 0xDEADBEEF),
+        ("convert4U8ToI32", [0x80, 0, 0, 0], -(2**31)),
+        ("convert4U8ToI32", [0xFF, 0xFF, 0xFF, 0xFE], -2),
+        ("convert8U8ToU64", [0xFF] * 8, 2**64 - 1),
+        ("convert8U8ToI64", [0x80] + [0] * 7, -(2**63)),
+        ("convert8U8ToI64", [0, 0, 0, 0, 0, 0, 1, 2], 258),
+        ("convert4U8ToF32", [0x3F, 0xC0, 0, 0], 1.5),
+        ("convert4U8ToF32", [0x3D, 0xCC, 0xCC, 0xCD], struct.unpack(">f", b"\x3d\xcc\xcc\xcd")[0]),
+        ("convert8U8ToF64", [0xC0, 0x24, 0, 0, 0, 0, 0, 0], -10.0),
+        ("convert2U8ToU16", [True, False], 256),
+    ],
+)
+def test_bytes_to_number(name, data, expected):
+    result = getattr(pyorv, name)(data)
+    assert result == expected
+    assert type(result) is type(expected)
+
+
+@pytest.mark.parametrize(
+    "name, width",
+    [
+        ("convert2U8ToU16", 2),
+        ("convert4U8ToU32", 4),
+        ("convert8U8ToU64", 8),
+        ("convert2U8ToI16", 2),
+        ("convert4U8ToI32", 4),
+        ("convert8U8ToI64", 8),
+        ("convert4U8ToF32", 4),
+        ("convert8U8ToF64", 8),
+    ],
+)
+@pytest.mark.parametrize("delta", [-1, 1])
+def test_bytes_to_number_wrong_count(name, width, delta):
+    with pytest.raises(ValueError, match=f"unpack requires a buffer of {width} bytes"):
+        getattr(pyorv, name)([1] * (width + delta))
+
+
+@pytest.mark.parametrize(
+    "data, error",
+    [([1, 256], ValueError), ([1, -1], ValueError), ([1, 1.0], TypeError), ("ab", TypeError)],
+)
+def test_bytes_to_number_refuses_bad_bytes(data, error):
+    with pytest.raises(error):
+        pyorv.convert2U8ToU16(data)
+
+
+# ---------------------------------------------------------------------------
+# Numbers to bytes, checked against the struct module
+
+INT_ROWS = [
+    ("convertU16To2U8", "convert2U8ToU16", ">H", 16, False),
+    ("convertU32To4U8", "convert4U8ToU32", ">I", 32, False),
+    ("convertU64To8U8", "convert8U8ToU64", ">Q", 64, False),
+    ("convertI16To2U8", "convert2U8ToI16", ">h", 16, True),
+    ("convertI32To4U8", "convert4U8ToI32", ">i", 32, True),
+    ("convertI64To8U8", "convert8U8ToI64", ">q", 64, True),
+]
+
+
+def _wrapped(value, bits, signed):
+    v = value % (1 << bits)
+    if signed and v >= 1 << (bits - 1):
+        v -= 1 << bits
+    return v
+
+
+@pytest.mark.parametrize("to_name, from_name, fmt, bits, signed", INT_ROWS)
+@pytest.mark.parametrize(
+    "value",
+    [0, 1, -1, 255, 256, 32767, 32768, -32769, 70000, 2**31, -(2**31) - 1, 2**63, 2**64 + 5],
+)
+def test_int_rows_wrap_like_a_cast(to_name, from_name, fmt, bits, signed, value):
+    expected = _wrapped(value, bits, signed)
+    packed = getattr(pyorv, to_name)(value)
+    assert type(packed) is bytes
+    assert packed == struct.pack(fmt, expected)
+    assert getattr(pyorv, from_name)(packed) == expected
+    assert getattr(pyorv, from_name)(list(packed)) == expected
+
+
+@pytest.mark.parametrize("to_name, from_name, fmt, bits, signed", INT_ROWS)
+@pytest.mark.parametrize("value", [2.9, -2.9, 65537.5, True, 1e19])
+def test_int_rows_truncate_floats_toward_zero(to_name, from_name, fmt, bits, signed, value):
+    packed = getattr(pyorv, to_name)(value)
+    assert packed == struct.pack(fmt, _wrapped(int(value), bits, signed))
+
+
+@pytest.mark.parametrize("to_name", [row[0] for row in INT_ROWS])
+@pytest.mark.parametrize(
+    "value, error",
+    [("1", TypeError), ([1], TypeError), (None, TypeError), (math.nan, ValueError),
+     (math.inf, ValueError)],
+)
+def test_int_rows_refuse(to_name, value, error):
+    with pytest.raises(error):
+        getattr(pyorv, to_name)(value)
+
+
+@pytest.mark.parametrize(
+    "value", [0.0, -0.0, 1.5, 0.1, -10.0, 1 / 3, 3.4028234663852886e38, 1e-45, 7, True]
+)
+def test_float_rows_match_struct(value):
+    assert pyorv.convertF32To4U8(value) == struct.pack(">f", value)
+    assert pyorv.convertF64To8U8(value) == struct.pack(">d", value)
+    assert pyorv.convert8U8ToF64(pyorv.convertF64To8U8(value)) == float(value)
+
+
+def test_float_rows_edges():
+    assert pyorv.convertF32To4U8(1e40) == b"\x7f\x80\x00\x00"  # beyond float range: infinity
+    assert pyorv.convertF32To4U8(-1e40) == b"\xff\x80\x00\x00"
+    assert math.isnan(pyorv.convert4U8ToF32(pyorv.convertF32To4U8(math.nan)))
+    assert pyorv.convertF64To8U8(2**70) == struct.pack(">d", 2**70)
+    with pytest.raises(TypeError):
+        pyorv.convertF32To4U8("1.0")
+
+
+def test_u16_of_one():
+    assert pyorv.convertU16To2U8(1) == b"\x00\x01"
+    assert list(pyorv.convertU16To2U8(1)) == [0, 1]
+
+
+# ---------------------------------------------------------------------------
+# Text and addresses
+
+
+@pytest.mark.parametrize(
+    "data, expected",
+    [
+        ([0, 0, 0], ""),
+        ([], ""),
+        (list(b"abc"), "abc"),
+        (b"ab\x00cd", "ab"),
+        (b"\x00abc", ""),
+        (list("1.0_é".encode()), "1.0_é"),
+        (b"\xe2\x82\xac\x00\xf0\x9f\x98\x80", "€"),
+    ],
+)
+def test_u8_list_to_str(data, expected):
+    assert pyorv.convertU8ListToStr(data) == expected
+
+
+@pytest.mark.parametrize(
+    "data", [b"abc\xff", b"a\x00\x80", b"\xc0\x80", b"x\xe2\x82", b"\xe2\x28\xa1", b"\xed\xa0\x80"]
+)
+def test_u8_list_to_str_names_the_bad_bytes(data):
+    with pytest.raises(UnicodeDecodeError) as ref:
+        data.decode("utf-8")
+    with pytest.raises(ValueError) as err:
+        pyorv.convertU8ListToStr(list(data))
+    assert str(err.value) == str(ref.value)
+
+
+@pytest.mark.parametrize("text", ["", "abc", "Aé€😀", "a\x00b", "Trellis_1.2"])
+def test_str_to_u8_list_gives_code_points(text):
+    assert pyorv.convertStrToU8List(text) == [ord(ch) for ch in text]
+
+
+@pytest.mark.parametrize("bad", [5, b"ab", None])
+def test_str_to_u8_list_refuses_non_text(bad):
+    with pytest.raises(TypeError):
+        pyorv.convertStrToU8List(bad)
+
+
+@pytest.mark.parametrize(
+    "text", ["192.168.1.110", "192.168.5.79", "255.255.255.0", "0.0.0.0", "127.1", "10.1.258",
+             "0x7f.1", "2130706433", "010.0.0.1"]
+)
+def test_ip_address_parses_like_inet_aton(text):
+    result = pyorv.convertIPAddrTo4U8(text)
+    assert type(result) is bytes
+    assert result == socket.inet_aton(text)
+
+
+@pytest.mark.parametrize(
+    "text", ["", "256.1.1.1", "1.2.3.4.5", "a.b.c.d", "1..2.3", "192.168.1.-1"]
+)
+def test_ip_address_malformed(text):
+    with pytest.raises(OSError, match="illegal IP address string passed to inet_aton"):
+        pyorv.convertIPAddrTo4U8(text)
+
+
+def test_ip_address_needs_text():
+    with pytest.raises(TypeError):
+        pyorv.convertIPAddrTo4U8(0x7F000001)
+    with pytest.raises(ValueError):
+        pyorv.convertIPAddrTo4U8("1.2.3.4\x00")
+
+
+@pytest.mark.parametrize(
+    "text", ["00:1A:2b:3C:4d:FF", "1:2:3", "abc", " a :0x1f:-1:+f:1_0:0x_f", "DE:AD:BE:EF:00:01:02"]
+)
+def test_mac_address_reads_hex_parts(text):
+    assert pyorv.convertMACAddrTo6U8(text) == [int(part, 16) for part in text.split(":")]
+
+
+@pytest.mark.parametrize("text", ["00:zz:11", "00::11", "", "0x", "1__0", "0o1", "1 0"])
+def test_mac_address_bad_part(text):
+    with pytest.raises(ValueError) as ref:
+        [int(part, 16) for part in text.split(":")]
+    with pytest.raises(ValueError) as err:
+        pyorv.convertMACAddrTo6U8(text)
+    assert str(err.value) == str(ref.value)
+
+
+# ---------------------------------------------------------------------------
+# Bit helpers and bit lists
+
+
+@pytest.mark.parametrize(
+    "call, expected",
+    [
+        (lambda: pyorv.clearBit(0b1111, 1), 0b1101),
+        (lambda: pyorv.clearBit(0b1101, 1), 0b1101),
+        (lambda: pyorv.fillBit(0b1000, 0), 0b1001),
+        (lambda: pyorv.readBit(0b0100, 2), 1),
+        (lambda: pyorv.readBit(0b0100, 1), 0),
+        (lambda: pyorv.readBit(-1, 100), 1),
+        (lambda: pyorv.writeBit(0, 3, 1), 8),
+        (lambda: pyorv.writeBit(0, 3, True), 8),
+        (lambda: pyorv.writeBit(0, 3, 1.0), 8),
+        (lambda: pyorv.writeBit(8, 3, 0), 0),
+        (lambda: pyorv.writeBit(8, 3, 2), 0),
+        (lambda: pyorv.writeBit(8, 3, "1"), 0),
+        (lambda: pyorv.changeToTrellisPort(1), 0),
+        (lambda: pyorv.changeToTrellisPort(5), 4),
+    ],
+)
+def test_bit_helpers(call, expected):
+    assert call() == expected
+
+
+def test_trellis_port_keeps_the_numeric_kind():
+    port = pyorv.changeToTrellisPort(2.0)
+    assert port == 1.0 and type(port) is float
+
+
+@pytest.mark.parametrize(
+    "call, error",
+    [
+        (lambda: pyorv.fillBit(0, -1), ValueError),
+        (lambda: pyorv.clearBit(1.0, 0), TypeError),
+        (lambda: pyorv.readBit(1, 0.0), TypeError),
+        (lambda: pyorv.changeToTrellisPort("1"), TypeError),
+    ],
+)
+def test_bit_helpers_refuse(call, error):
+    with pytest.raises(error):
+        call()
+
+
+@pytest.mark.parametrize(
+    "value, width, expected",
+    [
+        (5, 8, [1, 0, 1, 0, 0, 0, 0, 0]),
+        (5, 2, [1, 0]),
+        (0, 0, []),
+        (0, 3, [0, 0, 0]),
+        (255, 4, [1, 1, 1, 1]),
+        (True, 2, [1, 0]),
+        (0xA5A5, 16, [1, 0, 1, 0, 0, 1, 0, 1, 1, 0, 1, 0, 0, 1, 0, 1]),
+    ],
+)
+def test_int_to_binary_list(value, width, expected):
+    assert pyorv.convertIntToBinaryList(value, width) == expected
+
+
+def test_negative_values_are_refused_not_looped_on():
+    with pytest.raises(ValueError, match="value_int must not be negative"):
+        pyorv.convertIntToBinaryList(-1, 8)
+    with pytest.raises(ValueError, match="value_int must not be negative"):
+        pyorv.convertIntToIndexList(-3)
+
+
+@pytest.mark.parametrize(
+    "index_list, binary_list, expected",
+    [
+        ([0, 1, 2], [1, 0, 1], 5),
+        ([4, 5, 6, 7], [1, 1], 0x30),
+        ([0, 1, 2], [True, False, 5], 5),
+        ([0, 1], [7, -3], 1),
+        ((3,), (1,), 8),
+        ([0, 1], [], 0),
+    ],
+)
+def test_index_and_binary_lists_to_int(index_list, binary_list, expected):
+    assert pyorv.convertIndexAndBinaryListsToInt(index_list, binary_list) == expected
+
+
+def test_index_and_binary_lists_refuse_float_bits():
+    with pytest.raises(TypeError):
+        pyorv.convertIndexAndBinaryListsToInt([0], [1.0])
+
+
+@pytest.mark.parametrize("mask", [0, 1, 0b1010, 0xFFFF, 0x5A5A5A, 2**62])
+def test_index_list_round_trip(mask):
+    indices = pyorv.convertIntToIndexList(mask)
+    assert indices == [i for i in range(63) if mask >> i & 1]
+    assert pyorv.convertIndexListToInt(indices) == mask
+    bits = pyorv.convertIntToBinaryList(mask, 63)
+    assert pyorv.convertIndexAndBinaryListsToInt(list(range(63)), bits) == mask
+
+
+def test_index_list_edges():
+    assert pyorv.convertIndexListToInt([]) == 0
+    assert pyorv.convertIndexListToInt([1, 1]) == 2
+    assert pyorv.convertIntToIndexList(0) == []
+
+
+# ---------------------------------------------------------------------------
+# List shaping
+
+
+@pytest.mark.parametrize(
+    "args, expected",
+    [
+        (([5, -1],), [1, 0]),
+        (([True, False, 0],), [1, 0, 0]),
+        (([5, 0.5, -1],), [1.0, 0.5, 0.0]),
+        (([5, -1], 0.5, 1), [1.0, 0.5]),
+        (([-300, 0, 300], -255, 255), [-255, 0, 255]),
+        (([],), []),
+    ],
+)
+def test_coerce(args, expected):
+    result = pyorv.coerce(*args)
+    assert result == expected
+    assert [type(x) for x in result] == [type(x) for x in expected]
+
+
+@pytest.mark.parametrize("values", [[5, -1, 0, 1], [0.25, 3.5, -2.0], [1, 2.5], [True, 7]])
+def test_coerce_matches_a_clipped_array(values):
+    np = pytest.importorskip("numpy")
+    expected = np.clip(np.array(values), 0, 1).tolist()
+    assert pyorv.coerce(values) == expected
+    assert [type(x) for x in pyorv.coerce(values)] == [type(x) for x in expected]
+
+
+@pytest.mark.parametrize(
+    "args, expected",
+    [
+        (([1, 2, 3], 8, 7), [1, 2, 3, 7, 7, 7, 7, 7]),
+        ((list(range(10)),), list(range(8))),
+        (([0.5],), [0.5, 0, 0, 0, 0, 0, 0, 0]),
+        (((1, 2), 2), [1, 2]),
+        (([1, 2, 3], 0), []),
+    ],
+)
+def test_adjust_data_list(args, expected):
+    assert pyorv.adjustDataList(*args) == expected
+
+
+# ---------------------------------------------------------------------------
+# Argument checks
+
+
+@pytest.mark.parametrize("data", [0, -5, True, False, [], [1, "x"], 2**80])
+def test_check_input_type_default_accepts(data):
+    assert pyorv.checkInputType(data) is None
+
+
+@pytest.mark.parametrize("data", ["3", 3.0, (1,), None, b"\x01", {}, {1}, object()])
+def test_check_input_type_default_refuses(data):
+    with pytest.raises(pyorv.InputTypeNotCorrectError) as err:
+        pyorv.checkInputType(data)
+    assert isinstance(err.value, pyorv.Error)
+    assert err.value.code == pyorv.errInputTypeNotCorrect == -8008
+    assert err.value.msg == "The data type is not valid or is not recognized."
+
+
+@pytest.mark.parametrize(
+    "data, correct_type, ok",
+    [
+        ("x", str, True),
+        (1, str, False),
+        (1, bool, False),
+        (True, bool, True),
+        (1.5, (int, float), True),
+        (1, (str, (float, int)), True),
+        ((1,), tuple, True),
+        ([1], tuple, False),
+        (None, type(None), True),
+        ({}, object, True),
+        (b"", bytes, True),
+        (1, int | list, True),
+        ("x", int | list, False),
+    ],
+)
+def test_check_input_type_with_types(data, correct_type, ok):
+    if ok:
+        pyorv.checkInputType(data, correct_type)
+    else:
+        with pytest.raises(pyorv.InputTypeNotCorrectError):
+            pyorv.checkInputType(data, correct_type)
+
+
+def test_check_input_type_numpy_scalars():
+    np = pytest.importorskip("numpy")
+    pyorv.checkInputType(np.int64(3))
+    with pytest.raises(pyorv.InputTypeNotCorrectError):
+        pyorv.checkInputType(np.float32(3.0))
+
+
+@pytest.mark.parametrize("bad", [5, "int"])
+def test_check_input_type_needs_types(bad):
+    with pytest.raises(TypeError):
+        pyorv.checkInputType(1, bad)
+
+
+@pytest.mark.parametrize(
+    "a, b, ok",
+    [
+        (1, 2, True),
+        ([1], ["a"], True),
+        ("a", "bc", True),
+        ({}, {1: 2}, True),
+        (True, 1, False),
+        ([1], (1,), False),
+        (1, 1.0, False),
+        ({}, [], False),
+        (None, 0, False),
+    ],
+)
+def test_check_input_type_consistent(a, b, ok):
+    if ok:
+        pyorv.checkInputTypeConsistent(a, b)
+    else:
+        with pytest.raises(pyorv.InputTypeNotConsistentError) as err:
+            pyorv.checkInputTypeConsistent(a, b)
+        assert err.value.code == pyorv.errInputTypeNotConsistent == -8007
+
+
+@pytest.mark.parametrize(
+    "args",
+    [
+        ([],),
+        ([0, 255],),
+        (b"\x00\xff",),
+        ([-10.0, 0.5, 10], -10, 10.0),
+        ([True, 1], 1, 1),
+    ],
+)
+def test_check_each_item_in_range_passes(args):
+    assert pyorv.checkEachItemInRange(*args) is None
+
+
+@pytest.mark.parametrize(
+    "args, kwargs, msg",
+    [
+        (([0, 256],), {}, "The input value is not the acceptable range."),
+        (([-1],), {"msg": "pin out of range"}, "pin out of range"),
+        (([10.5], 0, 10), {}, "The input value is not the acceptable range."),
+        (([math.nan], -1.0, 1.0), {}, "The input value is not the acceptable range."),
+        (([300, "x"],), {}, "The input value is not the acceptable range."),
+    ],
+)
+def test_check_each_item_in_range_raises(args, kwargs, msg):
+    with pytest.raises(pyorv.InputDataNotInRangeError) as err:
+        pyorv.checkEachItemInRange(*args, **kwargs)
+    assert err.value.code == pyorv.errInputDataNotInRange == -8009
+    assert err.value.msg == msg
+
+
+def test_check_each_item_in_range_refuses_what_cannot_compare():
+    with pytest.raises(TypeError):
+        pyorv.checkEachItemInRange([1, "x"])
+    with pytest.raises(TypeError):
+        pyorv.checkEachItemInRange(5)
+
+
+PIN_MAP = ["Idle", "UART", "Idle", "GPIO"]
+ALLOWED = ["Idle", "UART"]
+
+
+@pytest.mark.parametrize(
+    "cell, expected", [((0, 0), True), ((0, 1), True), ([1, 3], False), ((0, -1), False)]
+)
+def test_check_func_pin_map(cell, expected):
+    assert pyorv.checkFuncPinMap(cell, PIN_MAP, ALLOWED) is expected
+
+
+def test_check_func_pin_map_outside_the_map():
+    with pytest.raises(IndexError):
+        pyorv.checkFuncPinMap((0, 4), PIN_MAP, ALLOWED)
+
+
+@pytest.mark.parametrize(
+    "cells, expected",
+    [([], True), ([(0, 0), (0, 1), (0, 2)], True), ([(0, 0), (0, 3), (0, 99)], False)],
+)
+def test_check_pin_map(cells, expected):
+    # The third cell of the failing case is outside the map: the walk stops first.
+    assert pyorv.checkPinMap(cells, PIN_MAP, ALLOWED) is expected
+
+
+# ---------------------------------------------------------------------------
+# Conversion of Python values at the boundary
+
+
+def test_ints_beyond_64_bits_overflow():
+    with pytest.raises(OverflowError, match="int too large for the device"):
+        pyorv.checkEachItemInRange([2**70])
+
+
+def test_self_containing_list_does_not_crash():
+    loop = []
+    loop.append(loop)
+    with pytest.raises(RecursionError):
+        pyorv.coerce(loop)
+
+
+@pytest.mark.parametrize("bad", [[{}], {1, 2}, [object()]])
+def test_unconvertible_values_are_type_errors(bad):
+    with pytest.raises(TypeError):
+        pyorv.coerce(bad)
+
+
+def test_numpy_values_convert():
+    np = pytest.importorskip("numpy")
+    assert pyorv.convert2U8ToU16(np.array([1, 2], dtype=np.uint8)) == 258
+    assert pyorv.convertU16To2U8(np.uint16(513)) == b"\x02\x01"
+    assert pyorv.convertU64To8U8(np.uint64(2**64 - 1)) == b"\xff" * 8
+    assert pyorv.convertF32To4U8(np.float32(1.5)) == b"\x3f\xc0\x00\x00"
+    assert pyorv.coerce(np.array([3, -3])) == [1, 0]
+    assert pyorv.writeBit(0, np.int32(2), np.bool_(True)) == 4

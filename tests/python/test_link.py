@@ -1,0 +1,328 @@
+"""Device objects, links and the command exchange, against simulated devices
+over real loopback sockets and the virtual USB backend."""
+
+import asyncio
+import gc
+import subprocess
+import sys
+import textwrap
+import time
+
+import pytest
+
+import pyorv
+import pyorv.sim as sim
+from conftest import fd_count, sent, thread_count, wait_until
+
+SILENT = 120  # a command the simulated firmware never answers here
+
+
+# ---- lifecycle and messages -------------------------------------------------------
+
+def test_messages_of_a_network_device(capsys, eth_sim):
+    dev = pyorv.ETHDevice()
+    dev.connect(eth_sim.host, eth_sim.cmd_port)
+    dev.connect(eth_sim.host, eth_sim.cmd_port)  # already connected: nothing
+    dev.disconnect()
+    dev.disconnect()  # not connected: nothing
+    dev.close()
+    dev.close()  # closed: nothing
+    assert capsys.readouterr().out.splitlines() == [
+        "Opened handle (ETHDevice)",
+        f"Connected to {eth_sim.host} (ETHDevice)",
+        f"Disconnected from {eth_sim.host} (ETHDevice)",
+        "Closed handle (ETHDevice)",
+    ]
+    assert dev.killed and dev._aliveThreads() == []
+
+
+def test_close_disconnects_with_its_own_message_and_never_connected_close(capsys, eth_sim):
+    dev = pyorv.ETHDevice(verbose=False)
+    dev.connect(eth_sim.host, eth_sim.cmd_port, verbose=False)
+    dev.close(verbose=False)
+    assert capsys.readouterr().out == f"Disconnected from {eth_sim.host} (ETHDevice)\n"
+    fresh = pyorv.ETHDevice(verbose=False)
+    assert fresh._aliveThreads() == ["recv_cmd_thread"]
+    fresh.close()
+    assert capsys.readouterr().out == "Closed handle (ETHDevice)\n"
+    assert fresh._aliveThreads() == []
+
+
+def test_reconnect_keeps_pools_and_failed_connect_can_be_retried(eth_sim):
+    dev = pyorv.ETHDevice(verbose=False)
+    with pytest.raises(pyorv.NetworkConnectionError) as info:
+        dev.connect("127.0.0.1", 1, verbose=False)  # nothing listens on port 1
+    assert info.value.code == -8002 and not dev.connect_status_cmd
+    dev.connect(eth_sim.host, eth_sim.cmd_port, verbose=False)
+    dev._putToDataPool(240, b"kept")
+    dev.disconnect(verbose=False)
+    dev.connect(eth_sim.host, eth_sim.cmd_port, verbose=False)
+    assert dev.data_pool_echo == {240: b"kept"}
+    assert dev._echoPacketWithRetry(240, [0], timeout=3) == b"kept"  # stale reply first
+    assert wait_until(lambda: 240 in dev.data_pool_echo)  # the fresh one waits behind
+    dev.disconnect(verbose=False)
+    dev.close(verbose=False)
+
+
+def test_with_statement_closes(eth_sim, capsys):
+    with pyorv.ETHDevice() as dev:
+        dev.connect(eth_sim.host, eth_sim.cmd_port, verbose=False)
+    assert dev.killed and dev._aliveThreads() == []
+    assert capsys.readouterr().out.splitlines()[-1] == "Closed handle (ETHDevice)"
+
+
+def test_connect_close_cycles_leak_no_thread_and_no_descriptor(eth_sim):
+    def cycle(i):
+        dev = pyorv.ETHDevice(verbose=False)
+        dev.connect(eth_sim.host, eth_sim.cmd_port, verbose=False)
+        if i % 50 == 0:
+            assert dev._echoPacketWithRetry(pyorv.GET_DRIVER_INFO, [0], timeout=3)
+        dev.disconnect(verbose=False)
+        dev.close(verbose=False)
+
+    cycle(0)
+    threads, fds = thread_count(), fd_count()
+    for i in range(500):
+        cycle(i)
+    assert wait_until(lambda: thread_count() == threads and fd_count() == fds)
+
+
+def test_garbage_collected_open_device_is_closed(eth_sim):
+    threads = thread_count()
+    dev = pyorv.ETHDevice(verbose=False)
+    dev.connect(eth_sim.host, eth_sim.cmd_port, verbose=False)
+    assert thread_count() == threads + 1
+    del dev
+    gc.collect()
+    assert wait_until(lambda: thread_count() == threads)
+    assert wait_until(lambda: not eth_sim.host_connected())
+
+
+def test_open_device_at_interpreter_exit_does_not_hang(tmp_path):
+    script = textwrap.dedent("""
+        import asyncio, pyorv, pyorv.sim as sim
+        s = sim.Simulator()
+        d = s.add_device(sim.DeviceConfig(model="Trellis"))
+        dev = pyorv.ETHDevice(verbose=False)
+        dev.connect(d.host, d.cmd_port, verbose=False)
+        async def pending():
+            dev._getReplyFromPool_async(12345)  # left pending at exit
+            return await dev._echoPacketWithRetry_async(pyorv.GET_DRIVER_INFO, [0])
+        print(asyncio.run(pending())[:7])
+        print("end of script")
+    """)
+    out = subprocess.run([sys.executable, "-c", script], capture_output=True, text=True,
+                         timeout=60)
+    assert out.returncode == 0, out.stderr
+    assert out.stdout.splitlines()[-1] == "end of script"
+
+
+# ---- the blocking exchange ---------------------------------------------------------
+
+def test_driver_info_round_trip_with_wire_bytes(eth, eth_sim):
+    reply = eth._echoPacketWithRetry(pyorv.GET_DRIVER_INFO, [0], timeout=3)
+    assert reply == eth_sim.config.driver_info.encode()
+    (p,) = eth_sim.packets()
+    assert (p.cmd, p.data, p.link) == (240, b"\x00", "cmd")
+    assert eth._preparePacket(pyorv.GET_DRIVER_INFO, [0]) == [2, 0, 2, 0xF0, 0, 13, 10]
+    assert eth._preparePacket(pyorv.AHRS_START) == [2, 0, 2, 0x24, 0x01, 13, 10]
+
+
+def test_blocking_timeout_retries_three_times_within_bounds(eth, eth_sim):
+    eth_sim.faults.never_answer = {SILENT}
+    start = time.monotonic()
+    with pytest.raises(pyorv.ReceivePacketTimeoutError) as info:
+        eth._echoPacketWithRetry(SILENT, [1, 2], timeout=0.9)
+    took = time.monotonic() - start
+    assert info.value.code == pyorv.errPacketTimeout
+    assert wait_until(lambda: sent(eth_sim, SILENT) == 3)
+    assert 0.9 <= took < 0.99 + 1.0  # three attempts of 0.3 s, each reported a tenth late
+    assert [p.data for p in eth_sim.packets()] == [b"\x01\x02"] * 3
+
+
+def test_get_reply_from_pool_takes_a_late_reply_when_it_comes(eth):
+    import threading
+    t = threading.Timer(0.35, lambda: eth._putToDataPool(77, b"late"))
+    t.start()
+    start = time.monotonic()
+    assert eth._getReplyFromPool(77, 1) == b"late"
+    took = time.monotonic() - start
+    t.join()
+    assert 0.3 <= took < 1.0
+
+
+def test_arguments_checked_before_sending(eth, eth_sim):
+    with pytest.raises(ValueError):
+        eth._echoPacketWithRetry(240, [0, 256], timeout=1)
+    with pytest.raises(TypeError):
+        eth._echoPacketWithRetry(240, {"a": 1}, timeout=1)
+    assert eth_sim.packets() == []
+
+
+def test_unconnected_device_raises_link_not_open():
+    dev = pyorv.ETHDevice(verbose=False)
+    with pytest.raises(pyorv.LinkNotOpenError):
+        dev._echoPacketWithRetry(240, [0], timeout=0.3)
+    dev.close(verbose=False)
+    with pytest.raises(pyorv.DeviceClosedError):
+        dev._sendPacketWithoutReply(240, [0])
+
+
+# ---- the awaitable exchange -------------------------------------------------------
+
+def test_awaitable_round_trip_and_concurrency(eth, eth_sim):
+    async def main():
+        # Different keys are independent exchanges, in flight together.
+        return await asyncio.gather(
+            eth._echoPacketWithRetry_async(pyorv.GET_DRIVER_INFO, [0]),
+            eth._echoPacket_async(122, [], timeout=2))
+
+    info, serial = asyncio.run(main())
+    assert info == eth_sim.config.driver_info.encode()
+    assert serial.startswith(b"SIMETH01")
+
+
+def test_awaitable_timeout_is_the_event_loop_error(eth, eth_sim):
+    eth_sim.faults.never_answer = {SILENT}
+
+    async def main():
+        assert await eth._echoPacket_async(SILENT, [0], timeout=0.05) is None
+        start = time.monotonic()
+        with pytest.raises(asyncio.TimeoutError) as info:
+            await eth._echoPacketWithRetry_async(SILENT, [0], num_retries=1, timeout=1.3)
+        assert not isinstance(info.value, pyorv.ReceivePacketTimeoutError)
+        return time.monotonic() - start
+
+    took = asyncio.run(main())
+    assert 1.3 <= took < 2.5
+    assert sent(eth_sim, SILENT) == 2
+
+
+def test_event_loop_keeps_running_during_an_exchange(eth, eth_sim):
+    eth_sim.faults.delay_us = 200_000
+
+    async def main():
+        ticks = 0
+
+        async def ticker():
+            nonlocal ticks
+            while True:
+                await asyncio.sleep(0.01)
+                ticks += 1
+
+        t = asyncio.create_task(ticker())
+        reply = await eth._echoPacketWithRetry_async(pyorv.GET_DRIVER_INFO, [0])
+        t.cancel()
+        return reply, ticks
+
+    reply, ticks = asyncio.run(main())
+    assert reply and ticks >= 5
+
+
+def test_cancelling_an_awaitable_stops_its_retries(eth, eth_sim):
+    eth_sim.faults.never_answer = {SILENT}
+
+    async def main():
+        task = asyncio.ensure_future(eth._echoPacketWithRetry_async(SILENT, [0]))
+        await asyncio.sleep(0.2)
+        task.cancel()
+        with pytest.raises(asyncio.CancelledError):
+            await task
+        await asyncio.sleep(1.2)  # an attempt would have been resent by now
+
+    asyncio.run(main())
+    assert sent(eth_sim, SILENT) == 1
+    assert eth._echoPacketWithRetry(pyorv.GET_DRIVER_INFO, [0], timeout=3)
+
+
+def test_closing_the_device_fails_pending_futures(eth_sim):
+    dev = pyorv.ETHDevice(verbose=False)
+    dev.connect(eth_sim.host, eth_sim.cmd_port, verbose=False)
+
+    async def main():
+        fut = dev._getReplyFromPool_async(4242)
+        await asyncio.sleep(0.05)
+        dev.disconnect(verbose=False)
+        dev.close(verbose=False)
+        with pytest.raises(pyorv.DeviceClosedError):
+            await asyncio.wait_for(fut, 5)
+
+    asyncio.run(main())
+
+
+def test_result_delivered_after_its_loop_closed_is_dropped(eth, eth_sim):
+    eth_sim.faults.delay_us = 300_000
+    loop = asyncio.new_event_loop()
+
+    async def start():
+        return eth._echoPacketWithRetry_async(pyorv.GET_DRIVER_INFO, [0])
+
+    loop.run_until_complete(start())
+    loop.close()  # the worker completes into a closed loop and must survive it
+    time.sleep(0.6)
+    assert eth._echoPacketWithRetry(pyorv.GET_DRIVER_INFO, [0], timeout=3)
+
+
+# ---- streams, USB, Wi-Fi, discovery --------------------------------------------------
+
+def test_stream_records_routed_by_port_and_chip(eth, eth_sim):
+    q = eth._streamQueue((pyorv.START_AI_STREAMING, 1, 0))
+    eth_sim.stream_records(pyorv.START_AI_STREAMING, bytes([1, 0]), 3, 0, payload_len=4)
+    eth_sim.stream_records(pyorv.START_AI_STREAMING, bytes([2, 0]), 2, 0, payload_len=4)
+    assert len(eth._getStreamingFromPool(q, 3, 0.1)) == 12
+    other = eth.data_pool_strm[(pyorv.START_AI_STREAMING, 2, 0)]
+    assert wait_until(lambda: other.qsize() == 2)
+
+    async def main():
+        return await eth._getStreamingFromPool_async(other, 5, 0.1)
+
+    assert len(asyncio.run(main())) == 8  # fewer than asked: what is there, no wait
+    assert eth._getStreamingFromPool(q, -1, 0.1) == []
+
+
+def test_usb_round_trip_through_the_virtual_backend(simulator, recwarn):
+    usb = simulator.add_device(sim.DeviceConfig(model="KestrelAin", link=sim.Link.Usb,
+                                                serial="SIMUSB01"))
+    dev = pyorv.USBDevice(verbose=False)
+    dev.connect("SIMUSB01", verbose=False)
+    assert dev.serial_num == "SIMUSB01"
+    assert dev._echoPacketWithRetry(pyorv.GET_DRIVER_INFO, [0], timeout=3) == \
+        usb.config.driver_info.encode()
+    with pytest.raises(pyorv.USBConnectionError):
+        pyorv.USBDevice(verbose=False).connect("NOSUCH", verbose=False)
+    dev.disconnect(verbose=False)
+    dev.close(verbose=False)
+    assert dev._aliveThreads() == []
+
+
+def test_wifi_device_uses_both_links(simulator):
+    w = simulator.add_device(sim.DeviceConfig(model="HeronAin", link=sim.Link.Wifi))
+    dev = pyorv.WifiDevice(verbose=False)
+    assert dev.connect(w.host, port1=w.data_port, port2=w.cmd_port, verbose=False) is True
+    assert dev._aliveThreads() == ["recv_cmd_thread", "recv_data_thread"]
+    assert dev._echoPacketWithRetry(pyorv.GET_DRIVER_INFO, [0], timeout=3)
+    assert w.wait_for_host(sim.Channel.Data, 2.0)
+    w.stream_records(pyorv.START_AO_STREAMING, b"", 4, 0, payload_len=3)
+    q = dev._streamQueue(pyorv.START_AO_STREAMING)
+    assert len(dev._getStreamingFromPool(q, 4, 0.1)) == 12
+    dev.disconnect(verbose=False)
+    assert not dev.connect_status_cmd and not dev.connect_status_data
+    dev.close(verbose=False)
+    assert dev._aliveThreads() == []
+
+
+def test_broadcast_collects_each_answer_once(simulator):
+    for i in range(3):
+        simulator.add_device(sim.DeviceConfig(model="Trellis", serial=f"SIMB{i:04d}",
+                                              mac=f"02:4F:52:56:00:{i + 10:02X}"))
+    port = simulator.start_discovery("127.0.0.1", 0)
+    finder = pyorv.BroadcastDevice(verbose=False, broadcast_addr=f"127.0.0.1:{port}")
+    finder.connect(verbose=False)
+    start = time.monotonic()
+    answers = finder._broadcastPacket(pyorv.GET_DEVICE_INFO, [0])
+    took = time.monotonic() - start
+    finder.disconnect(verbose=False)
+    finder.close(verbose=False)
+    assert len(answers) == 3  # three devices, three sends each, one entry per device
+    assert 5.0 <= took < 7.0
+    assert all(a.startswith(bytes([127, 0, 0, 1])) for a in answers)
