@@ -274,19 +274,22 @@ void bindLink(py::module_& m) {
            py::arg("queue_"), py::arg("num_samples"), py::arg("delay"))
       // The exchange, awaitable.
       .def("_sendPacketWithoutReply_async",
-           [](Device& d, int cmd, const Value& data_out) {
+           [](py::object self, int cmd, const Value& data_out) {
              Bytes b = data_out.toBytes();
-             {
-               py::gil_scoped_release r;
-               d.sendPacketWithoutReply(cmd, b);
-             }
-             return doneFuture(py::none());
+             return immediateCoroutine([self, cmd, b]() -> py::object {
+               Device& d = self.cast<Device&>();
+               {
+                 py::gil_scoped_release r;
+                 d.sendPacketWithoutReply(cmd, b);
+               }
+               return py::none();
+             });
            },
            py::arg("cmd"), py::arg("data_out"))
       .def("_echoPacket_async",
            [](py::object self, int cmd, const Value& data_out, double timeout) {
              Device& d = self.cast<Device&>();
-             return startAwaitable(self, [&d, cmd, b = data_out.toBytes(), timeout](CancelToken* tok) {
+             return makeCoroutine(self, [&d, cmd, b = data_out.toBytes(), timeout](CancelToken* tok) {
                auto out = d.echoPacketAsync(cmd, b, timeout, tok);
                return std::function<py::object()>([out] {
                  return out ? py::object(toPy(*out)) : py::object(py::none());
@@ -297,7 +300,7 @@ void bindLink(py::module_& m) {
       .def("_echoPacketWithRetry_async",
            [](py::object self, int cmd, const Value& data_out, int num_retries, double timeout) {
              Device& d = self.cast<Device&>();
-             return startAwaitable(
+             return makeCoroutine(
                  self, [&d, cmd, b = data_out.toBytes(), num_retries, timeout](CancelToken* tok) {
                    auto out = d.echoPacketWithRetryAsync(cmd, b, num_retries, timeout, tok);
                    return std::function<py::object()>([out] { return py::object(toPy(out)); });
@@ -308,7 +311,7 @@ void bindLink(py::module_& m) {
       .def("_getReplyFromPool_async",
            [](py::object self, int64_t cmd) {
              Device& d = self.cast<Device&>();
-             return startAwaitable(self, [&d, cmd](CancelToken* tok) {
+             return makeCoroutine(self, [&d, cmd](CancelToken* tok) {
                auto out = d.getReplyFromPoolAsync(cmd, tok);
                return std::function<py::object()>([out] { return py::object(toPy(out)); });
              });
@@ -317,15 +320,18 @@ void bindLink(py::module_& m) {
       .def("_broadcastPacket_async",
            [](py::object self, int cmd, const Value& data_out) {
              Device& d = self.cast<Device&>();
-             return startAwaitable(self, [&d, cmd, b = data_out.toBytes()](CancelToken* tok) {
+             return makeCoroutine(self, [&d, cmd, b = data_out.toBytes()](CancelToken* tok) {
                auto out = d.broadcastPacket(cmd, b, tok);
                return std::function<py::object()>([out] { return py::object(toPySet(out)); });
              });
            },
            py::arg("cmd"), py::arg("data_out"))
       .def("_getStreamingFromPool_async",
-           [](Device& d, StreamQueue& q, int64_t num_samples, double /*delay*/) {
-             return doneFuture(flatList(d.getStreamingFromPoolAsync(q, num_samples)));
+           [](py::object self, std::shared_ptr<StreamQueue> q, int64_t num_samples,
+              double /*delay*/) {
+             return immediateCoroutine([self, q, num_samples]() -> py::object {
+               return flatList(self.cast<Device&>().getStreamingFromPoolAsync(*q, num_samples));
+             });
            },
            py::arg("queue_"), py::arg("num_samples"), py::arg("delay"));
 

@@ -14,6 +14,8 @@ namespace py = pybind11;
 void bindErrors(py::module_& m);
 void bindConstants(py::module_& m);
 void bindLink(py::module_& m);
+void bindSystem(py::module_& m);
+void bindModels(py::module_& m);
 void installHooks(py::module_& m);
 
 // The host class made for a row of the error table.

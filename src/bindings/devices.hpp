@@ -35,10 +35,10 @@ std::shared_ptr<T> makeDevice(bool verbose, const char* class_name) {
 // A device class whose constructor is T(verbose=True).  With `broadcast` the
 // constructor also takes broadcast_addr ("host" or "host:port") for the
 // discovery target.
-template <class T, class Base>
-py::class_<T, Base, std::shared_ptr<T>> bindDeviceClass(py::module_& m, const char* name,
-                                                        bool broadcast = false) {
-  py::class_<T, Base, std::shared_ptr<T>> cls(m, name);
+template <class T, class... Bases>
+py::class_<T, Bases..., std::shared_ptr<T>> bindDeviceClass(py::module_& m, const char* name,
+                                                            bool broadcast = false) {
+  py::class_<T, Bases..., std::shared_ptr<T>> cls(m, name);
   std::string cname = name;
   if constexpr (std::is_base_of_v<BroadcastDevice, T>) {
     cls.def(py::init([cname](bool verbose, std::optional<std::string> target) {

@@ -98,6 +98,8 @@ PYBIND11_MODULE(_pyorv, m) {
   bindErrors(m);
   bindConvert(m);
   bindLink(m);
+  bindSystem(m);
+  bindModels(m);
   bindSim(m);
   installHooks(m);
 }

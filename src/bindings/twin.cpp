@@ -1,5 +1,9 @@
 #include "bindings/twin.hpp"
 
+#include <pybind11/eval.h>
+
+#include <pybind11/gil_safe_call_once.h>
+
 #include <condition_variable>
 #include <deque>
 #include <mutex>
@@ -19,6 +23,29 @@ struct Executor::State {
 
 // Enough workers for many overlapping exchanges; more calls queue up.
 static constexpr size_t kMaxWorkers = 64;
+
+namespace {
+
+// A worker enters the interpreter once per completed call.  Making a thread
+// state each time costs a fresh frame stack (an mmap and munmap, and so a TLB
+// shootdown across cores) per call; a worker makes one on its first entry
+// and keeps it until it ends.
+thread_local bool t_keeps_state = false;
+
+void keepThreadState(py::gil_scoped_acquire& gil) {
+  if (t_keeps_state) return;
+  gil.inc_ref();  // one reference more than the scope's: the state outlives it
+  t_keeps_state = true;
+}
+
+void dropThreadState() {
+  if (!t_keeps_state || !pythonAlive()) return;
+  t_keeps_state = false;
+  py::gil_scoped_acquire gil;
+  gil.dec_ref();  // the scope's own release then deletes the state
+}
+
+}  // namespace
 
 std::shared_ptr<Executor::State> Executor::make() { return std::make_shared<State>(); }
 
@@ -43,7 +70,11 @@ void Executor::run() {
     ++s_->idle;
     s_->cv.wait(lk, [&] { return s_->stopping || !s_->queue.empty(); });
     --s_->idle;
-    if (s_->queue.empty()) return;  // stopping
+    if (s_->queue.empty()) {  // stopping
+      lk.unlock();
+      dropThreadState();
+      return;
+    }
     auto task = std::move(s_->queue.front());
     s_->queue.pop_front();
     lk.unlock();
@@ -76,29 +107,59 @@ struct Pending {
   std::shared_ptr<CancelToken> token;
 };
 
+// Python objects made once, on first use, and never released: a worker may
+// use them up to interpreter exit.
+template <class Make>
+py::object& once(py::gil_safe_call_once_and_store<py::object>& store, Make make) {
+  return store.call_once_and_store_result(make).get_stored();
+}
+
 py::object& setResult() {
-  static auto* f = new py::object(py::cpp_function([](py::object fut, py::object value) {
-    if (!fut.attr("done")().cast<bool>()) fut.attr("set_result")(value);
-  }));
-  return *f;
+  PYBIND11_CONSTINIT static py::gil_safe_call_once_and_store<py::object> store;
+  return once(store, [] {
+    return py::cpp_function([](py::object fut, py::object value) {
+      if (!fut.attr("done")().cast<bool>()) fut.attr("set_result")(value);
+    });
+  });
 }
 
 py::object& setException() {
-  static auto* f = new py::object(py::cpp_function([](py::object fut, py::object exc) {
-    if (!fut.attr("done")().cast<bool>()) fut.attr("set_exception")(exc);
-  }));
-  return *f;
+  PYBIND11_CONSTINIT static py::gil_safe_call_once_and_store<py::object> store;
+  return once(store, [] {
+    return py::cpp_function([](py::object fut, py::object exc) {
+      if (!fut.attr("done")().cast<bool>()) fut.attr("set_exception")(exc);
+    });
+  });
+}
+
+py::object runningLoop() {
+  PYBIND11_CONSTINIT static py::gil_safe_call_once_and_store<py::object> store;
+  return once(store, [] { return py::module_::import("asyncio").attr("get_running_loop"); })();
+}
+
+// The done-callback of a call's future: a cancelled future cancels the
+// call's token.  One function serves every call, bound to the call's token by
+// functools.partial: much cheaper than a new function object per call.
+py::object cancelOnDone(const std::shared_ptr<CancelToken>& token) {
+  PYBIND11_CONSTINIT static py::gil_safe_call_once_and_store<py::object> partial, callback;
+  py::capsule cap(new std::shared_ptr<CancelToken>(token),
+                  [](void* p) { delete static_cast<std::shared_ptr<CancelToken>*>(p); });
+  auto& fn = once(callback, [] {
+    return py::cpp_function([](py::capsule tok, py::object fut) {
+      if (fut.attr("cancelled")().cast<bool>())
+        (*static_cast<std::shared_ptr<CancelToken>*>(tok.get_pointer()))->cancel();
+    });
+  });
+  return once(partial, [] { return py::module_::import("functools").attr("partial"); })(fn, cap);
 }
 
 }  // namespace
 
 py::object startAwaitable(py::object keep, AsyncBody body) {
-  py::object loop = py::module_::import("asyncio").attr("get_running_loop")();
+  py::object loop = runningLoop();
   py::object future = loop.attr("create_future")();
   auto token = std::make_shared<CancelToken>();
-  future.attr("add_done_callback")(py::cpp_function([token](py::object fut) {
-    if (fut.attr("cancelled")().cast<bool>()) token->cancel();
-  }));
+  future.attr("add_done_callback")(cancelOnDone(token));
   auto* pending = new Pending{std::move(keep), loop, future, token};
 
   auto task = [pending, body = std::move(body)] {
@@ -111,6 +172,7 @@ py::object startAwaitable(py::object keep, AsyncBody body) {
     }
     if (!pythonAlive()) return;  // the interpreter is going away; nothing to complete
     py::gil_scoped_acquire gil;
+    keepThreadState(gil);
     try {
       if (!pending->future.attr("done")().cast<bool>()) {
         if (error) {
@@ -143,11 +205,33 @@ py::object startAwaitable(py::object keep, AsyncBody body) {
   return future;
 }
 
-py::object doneFuture(py::object value) {
-  py::object loop = py::module_::import("asyncio").attr("get_running_loop")();
-  py::object future = loop.attr("create_future")();
-  future.attr("set_result")(value);
-  return future;
+namespace {
+// Two coroutine functions, made once; an `async def` is the only way to hand
+// the host a real coroutine object.
+py::object& coroutineHelpers() {
+  static auto* scope = [] {
+    auto* d = new py::dict();
+    py::exec(R"(
+async def _await_call(start):
+    return await start()
+
+async def _run_now(f):
+    return f()
+)",
+             py::globals(), *d);
+    return d;
+  }();
+  return *scope;
+}
+}  // namespace
+
+py::object makeCoroutine(py::object keep, AsyncBody body) {
+  py::cpp_function start([keep, body]() { return startAwaitable(keep, body); });
+  return coroutineHelpers()["_await_call"](start);
+}
+
+py::object immediateCoroutine(std::function<py::object()> f) {
+  return coroutineHelpers()["_run_now"](py::cpp_function(std::move(f)));
 }
 
 }  // namespace orv::py_bind

@@ -36,11 +36,18 @@ class Executor {
 // that makes the Python result (run with the GIL held).
 using AsyncBody = std::function<std::function<py::object()>(CancelToken* tok)>;
 
-// Starts `body` on the executor and returns the asyncio future of its result.
-// `keep` is held (a strong reference) until the call ends: the device object.
+// The awaitable twin's result: a coroutine, so that it can be made outside a
+// running loop (asyncio.run(dev.X_async())) like any `async def`.  When it is
+// awaited it starts `body` on the executor and waits for its future.  `keep`
+// is held until the call ends: the device object.
+py::object makeCoroutine(py::object keep, AsyncBody body);
+
+// Starts `body` on the executor now and returns the asyncio future of its
+// result (needs a running loop).
 py::object startAwaitable(py::object keep, AsyncBody body);
 
-// A future already completed with `value` (for twins that do not suspend).
-py::object doneFuture(py::object value);
+// A coroutine that runs `f` when awaited, without suspending (for twins that
+// never wait: fire-and-forget sends, stream reads that take what is there).
+py::object immediateCoroutine(std::function<py::object()> f);
 
 }  // namespace orv::py_bind

@@ -64,7 +64,8 @@ void Link::setClient(std::shared_ptr<Client> c) {
 
 // ---- Device: pools and routing -------------------------------------------------
 
-Device::Device(std::string class_name) : class_name_(std::move(class_name)) {}
+Device::Device(std::string class_name)
+    : class_name_(std::move(class_name)), model_(&orv::modelInfo(class_name_)) {}
 
 Device::~Device() = default;
 

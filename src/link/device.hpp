@@ -12,6 +12,7 @@
 #pragma once
 
 #include <atomic>
+#include <map>
 #include <condition_variable>
 #include <memory>
 #include <mutex>
@@ -26,6 +27,7 @@
 #include "link/framing.hpp"
 #include "link/pools.hpp"
 #include "link/transport.hpp"
+#include "models/model_info.hpp"
 
 namespace orv {
 
@@ -83,6 +85,8 @@ class Device {
 
   const std::string& className() const { return class_name_; }
   std::string deviceName() const;  // _getDeviceName
+  // The model's row of the model table (a bare row for the device classes).
+  const ModelInfo& modelInfo() const { return *model_; }
   bool killed() const { return killed_.load(); }
 
   // Pools.
@@ -151,6 +155,7 @@ class Device {
   void throwIfClosed() const;
 
   std::string class_name_;
+  const ModelInfo* model_;
   std::atomic<bool> killed_{false};
   std::vector<Link*> links_;
   EchoPool echo_;
@@ -244,5 +249,7 @@ class BroadcastDevice : public Device {
 
 // LABEL_DICT lookup of a class name; the class name itself when unknown.
 std::string labelFor(const std::string& class_name);
+// LABEL_DICT as a whole.
+std::map<std::string, std::string> labelDict();
 
 }  // namespace orv

@@ -1,0 +1,279 @@
+"""The pyorv command line.
+
+    python -m pyorv demo                      a short tour against a simulated device
+    python -m pyorv sim [--model NAME ...]    simulated devices on loopback until Ctrl-C
+    python -m pyorv find --broadcast HOST     discovery of network devices
+    python -m pyorv info HOST[:PORT]          driver info and serial number of one device
+"""
+
+import argparse
+import asyncio
+import ipaddress
+import os
+import signal
+import sys
+import threading
+import time
+
+import pyorv
+
+GET_SERIAL_NUMBER = 122
+DEMO_COMMANDS = 1000
+
+
+def _fail(msg, code=1):
+    print(f"pyorv: {msg}", file=sys.stderr)
+    return code
+
+
+def _split_host_port(text, default_port):
+    host, sep, port = text.rpartition(":")
+    if not sep:
+        return text, default_port
+    if not port.isdigit() or not 0 <= int(port) <= 65535:
+        raise argparse.ArgumentTypeError(f"bad port in {text!r}")
+    return host, int(port)
+
+
+def _is_loopback(host):
+    if host == "localhost":
+        return True
+    try:
+        return ipaddress.IPv4Address(host).is_loopback
+    except ipaddress.AddressValueError:
+        return False
+
+
+def _text(reply):
+    return bytes(reply).decode("ascii", errors="replace").rstrip("\0 ")
+
+
+def _driver_class():
+    """The Trellis model class when the package has it, else the bare link class."""
+    return getattr(pyorv, "Trellis", None) or pyorv.ETHDevice
+
+
+# ---- demo -----------------------------------------------------------------------------
+
+def cmd_demo(args):
+    import pyorv.sim as sim
+
+    with sim.Simulator() as simulator:
+        sim_dev = simulator.add_device(sim.DeviceConfig(model="Trellis", serial="SIM00001"))
+        print(f"pyorv {pyorv.__version__} demo: a simulated {sim_dev.model} in this process, "
+              f"on loopback TCP")
+        dev = _driver_class()()
+        try:
+            dev.connect(sim_dev.host, sim_dev.cmd_port)
+            sim_dev.wait_for_host(sim.Channel.Cmd, 5.0)
+
+            info = _text(dev._echoPacketWithRetry(pyorv.GET_DRIVER_INFO, [0], timeout=3))
+            print(f"driver info            {info.split('_')}")
+
+            async def awaitable_info():
+                return await dev._echoPacketWithRetry_async(pyorv.GET_DRIVER_INFO, [0])
+
+            info_async = _text(asyncio.run(awaitable_info()))
+            print(f"driver info, awaitable {info_async.split('_')}")
+
+            serial = _text(dev._echoPacketWithRetry(GET_SERIAL_NUMBER, [], timeout=3)[:8])
+            print(f"serial number          {serial}")
+
+            start = time.perf_counter()
+            for _ in range(DEMO_COMMANDS):
+                dev._echoPacketWithRetry(pyorv.GET_DRIVER_INFO, [0], timeout=3)
+            mean_us = (time.perf_counter() - start) / DEMO_COMMANDS * 1e6
+            print(f"{DEMO_COMMANDS} commands          mean round trip {mean_us:.0f} us")
+
+            # The simulated firmware swallows the next reply: the first attempt
+            # times out after a third of the timeout, the retry gets through.
+            sim_dev.clear_packets()
+            sim_dev.faults.drop_next = 1
+            start = time.perf_counter()
+            dev._echoPacketWithRetry(pyorv.GET_DRIVER_INFO, [0], timeout=0.6)
+            took = time.perf_counter() - start
+            sim_dev.wait_for_packets(2, 1.0)
+            sent = [p.cmd for p in sim_dev.packets()]
+            print(f"fault injection        one reply dropped, recovered by a retry in "
+                  f"{took:.2f} s; the simulator recorded {len(sent)} packets {sent}")
+            dev.disconnect()
+        finally:
+            dev.close()
+    print("demo done")
+    return 0
+
+
+# ---- sim ------------------------------------------------------------------------------
+
+def cmd_sim(args):
+    import pyorv.sim as sim
+
+    if not _is_loopback(args.host):
+        return _fail(f"refusing to listen on {args.host}: the simulator serves loopback "
+                     f"addresses (127.0.0.0/8) only", 2)
+    stop = threading.Event()
+    for sig in (signal.SIGINT, signal.SIGTERM):
+        signal.signal(sig, lambda *_: stop.set())
+
+    link = {"eth": sim.Link.Ethernet, "wifi": sim.Link.Wifi, "usb": sim.Link.Usb}[args.link]
+    simulator = sim.Simulator()
+    try:
+        for i, model in enumerate(args.model, start=1):
+            cfg = sim.numbered_config(model, link, i)
+            cfg.host = args.host
+            dev = simulator.add_device(cfg)
+            if args.link == "eth":
+                where = f"{dev.host} cmd_port={dev.cmd_port}"
+            elif args.link == "wifi":
+                where = f"{dev.host} cmd_port={dev.cmd_port} data_port={dev.data_port}"
+            else:
+                where = "virtual, reachable from this process only"
+            print(f"{dev.model} {args.link} {where} serial={dev.serial} mac={cfg.mac}",
+                  flush=True)
+        if args.discovery:
+            port = simulator.start_discovery(args.host, args.discovery_port,
+                                             pyorv.UDP_RECV_PORT)
+            print(f"discovery udp {args.host}:{port} answers to port {pyorv.UDP_RECV_PORT}; "
+                  f"use PYORV_BROADCAST_ADDR={args.host}:{port}", flush=True)
+        print("running; Ctrl-C or SIGTERM stops", flush=True)
+        while not stop.is_set():
+            stop.wait(0.5)
+    except (pyorv.Error, OSError, ValueError) as e:
+        return _fail(str(e))
+    finally:
+        simulator.stop()
+    print("stopped", flush=True)
+    return 0
+
+
+# ---- find -----------------------------------------------------------------------------
+
+def _device_info_line(answer):
+    b = bytes(answer)
+    if len(b) < 14:
+        return f"(short answer {b.hex()})"
+    ip = ".".join(str(x) for x in b[0:4])
+    mask = ".".join(str(x) for x in b[4:8])
+    mac = ":".join(f"{x:02x}" for x in b[8:14])
+    model = b[14:].decode("ascii", errors="replace").rstrip("\0")
+    return f"{model} eth {ip} mask={mask} mac={mac}"
+
+
+def _collect(finder, timeout):
+    if timeout is None:
+        return finder._broadcastPacket(pyorv.GET_DEVICE_INFO, [0])
+
+    async def window():
+        try:
+            return await asyncio.wait_for(
+                finder._broadcastPacket_async(pyorv.GET_DEVICE_INFO, [0]), timeout)
+        except asyncio.TimeoutError:
+            return finder._broadcastAnswers(pyorv.GET_DEVICE_INFO)
+
+    return asyncio.run(window())
+
+
+def _usb_lister(finder):
+    for name in ("Bcst_enumerateUSBDevices", "_getAllUSBDevices"):
+        fn = getattr(finder, name, None)
+        if fn is not None:
+            return fn
+    return None
+
+
+def cmd_find(args):
+    target = args.broadcast or os.environ.get("PYORV_BROADCAST_ADDR")
+    if not target:
+        return _fail("no broadcast target: set PYORV_BROADCAST_ADDR, or pass --broadcast "
+                     "HOST[:PORT] (--broadcast 255.255.255.255 scans the local network)", 2)
+    try:
+        host, port = _split_host_port(target, pyorv.UDP_SEND_PORT)
+    except argparse.ArgumentTypeError as e:
+        return _fail(f"broadcast target: {e}", 2)
+    finder = pyorv.BroadcastDevice(verbose=False, broadcast_addr=f"{host}:{port}")
+    try:
+        finder.connect(verbose=False)
+        answers = sorted(_collect(finder, args.timeout))
+        lister = _usb_lister(finder)
+        usb = lister() if lister is not None else []
+        finder.disconnect(verbose=False)
+    except (pyorv.Error, OSError) as e:
+        return _fail(str(e))
+    finally:
+        finder.close(verbose=False)
+    for a in answers:
+        print(_device_info_line(a))
+    for serial, product in usb:
+        print(f"{product} usb serial={serial}")
+    if not answers and not usb:
+        print("no device answered")
+    return 0
+
+
+# ---- info -----------------------------------------------------------------------------
+
+def cmd_info(args):
+    host, port = args.address
+    dev = pyorv.ETHDevice(verbose=False)
+    try:
+        dev.connect(host, port, verbose=False)
+        info = _text(dev._echoPacketWithRetry(pyorv.GET_DRIVER_INFO, [0], timeout=3))
+        serial = _text(dev._echoPacketWithRetry(GET_SERIAL_NUMBER, [], timeout=3)[:8])
+        dev.disconnect(verbose=False)
+    except (pyorv.Error, OSError) as e:
+        return _fail(f"{host}:{port}: {e}")
+    finally:
+        dev.close(verbose=False)
+    print(f"{host}:{port} driver info {info.split('_')} serial number {serial}")
+    return 0
+
+
+# ---- entry ----------------------------------------------------------------------------
+
+def _parser():
+    p = argparse.ArgumentParser(prog="python -m pyorv",
+                                description="ORV driver tools and the device simulator")
+    p.add_argument("--version", action="version", version=f"pyorv {pyorv.__version__}")
+    sub = p.add_subparsers(dest="command", required=True, metavar="COMMAND")
+
+    d = sub.add_parser("demo", help="a short tour against a simulated device in this process")
+    d.set_defaults(run=cmd_demo)
+
+    s = sub.add_parser("sim", help="run simulated devices on loopback until Ctrl-C or SIGTERM")
+    s.add_argument("--model", nargs="+", action="extend", metavar="NAME",
+                   help="one device per model name (default: Trellis); repeatable")
+    s.add_argument("--link", choices=("eth", "wifi", "usb"), default="eth")
+    s.add_argument("--discovery", action="store_true",
+                   help="answer UDP discovery on HOST (see the printed PYORV_BROADCAST_ADDR)")
+    s.add_argument("--discovery-port", type=int, default=pyorv.UDP_SEND_PORT, metavar="N",
+                   help=f"UDP port of discovery (default {pyorv.UDP_SEND_PORT}; 0: any free)")
+    s.add_argument("--host", default="127.0.0.1", help="a loopback address (default 127.0.0.1)")
+    s.set_defaults(run=cmd_sim)
+
+    f = sub.add_parser("find", help="discover network devices (and USB devices when listable)")
+    f.add_argument("--broadcast", metavar="HOST[:PORT]",
+                   help="where discovery is sent; default: the PYORV_BROADCAST_ADDR variable, "
+                        "and without either nothing is sent. --broadcast 255.255.255.255 "
+                        "scans the real local network")
+    f.add_argument("--timeout", type=float, metavar="S",
+                   help=f"seconds to collect answers (at most the {pyorv.PACKET_TIMEOUT} s "
+                        f"discovery window, which is the default)")
+    f.set_defaults(run=cmd_find)
+
+    i = sub.add_parser("info", help="driver info and serial number of a network device")
+    i.add_argument("address", metavar="HOST[:PORT]",
+                   type=lambda t: _split_host_port(t, pyorv.TCP_CMD_PORT),
+                   help=f"the device's address; PORT defaults to {pyorv.TCP_CMD_PORT}")
+    i.set_defaults(run=cmd_info)
+    return p
+
+
+def main(argv=None):
+    args = _parser().parse_args(argv)
+    if getattr(args, "model", "") is None:
+        args.model = ["Trellis"]
+    return args.run(args)
+
+
+if __name__ == "__main__":
+    sys.exit(main())
