@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "link/error.hpp"
+#include "models/model_info.hpp"
 
 namespace orv::sim {
 
@@ -24,6 +25,19 @@ std::optional<Link> parseLink(std::string_view text) {
   if (text == "wifi" || text == "Wifi") return Link::Wifi;
   if (text == "usb" || text == "Usb") return Link::Usb;
   return std::nullopt;
+}
+
+Link linkOfModel(std::string_view model) {
+  switch (modelInfo(model).device) {
+    case DeviceKind::Usb:
+      return Link::Usb;
+    case DeviceKind::Wifi:
+      return Link::Wifi;
+    case DeviceKind::Ethernet:
+    case DeviceKind::None:
+      break;
+  }
+  return Link::Ethernet;
 }
 
 const char* channelName(Channel ch) {

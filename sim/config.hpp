@@ -35,6 +35,9 @@ struct DeviceConfig {
 // "eth", "wifi", "usb" (also accepted by parseLink, with "ethernet").
 const char* linkName(Link link);
 std::optional<Link> parseLink(std::string_view text);
+// The link of a model's devices, from its device class in the model table:
+// Usb, Ethernet or Wifi; Ethernet for a name outside the table.
+Link linkOfModel(std::string_view model);
 // "auto", "cmd", "data", "udp".
 const char* channelName(Channel ch);
 

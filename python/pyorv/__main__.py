@@ -193,6 +193,16 @@ def cmd_find(args):
     finder = pyorv.BroadcastDevice(verbose=False, broadcast_addr=f"{host}:{port}")
     try:
         finder.connect(verbose=False)
+    except (pyorv.Error, OSError) as e:
+        # The socket of a failed bind stays with the client; shut it so that
+        # the receive thread, let through by close(), does not wait on it.
+        try:
+            finder.client_udp.disconnect()
+        except (pyorv.Error, OSError):
+            pass  # no socket was made
+        finder.close(verbose=False)
+        return _fail(f"cannot receive answers on UDP port {pyorv.UDP_RECV_PORT}: {e}")
+    try:
         answers = sorted(_collect(finder, args.timeout))
         lister = _usb_lister(finder)
         usb = lister() if lister is not None else []

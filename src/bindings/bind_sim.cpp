@@ -120,7 +120,7 @@ DeviceConfig makeConfig(const std::string& model, const py::object& link, const 
                         const std::string& gateway) {
   DeviceConfig c;
   c.model = model;
-  c.link = toLink(link);
+  c.link = link.is_none() ? linkOfModel(model) : toLink(link);
   c.serial = serial;
   c.host = host;
   c.cmd_port = cmd_port;
@@ -165,7 +165,7 @@ void bindSim(pybind11::module_& parent) {
 
   py::class_<DeviceConfig>(m, "DeviceConfig")
       .def(py::init(&makeConfig), py::kw_only(), py::arg("model") = "Trellis",
-           py::arg("link") = py::cast(Link::Ethernet), py::arg("serial") = "SIM00001",
+           py::arg("link") = py::none(), py::arg("serial") = "SIM00001",
            py::arg("host") = "127.0.0.1", py::arg("cmd_port") = 0, py::arg("data_port") = 0,
            py::arg("driver_info") = "", py::arg("mac") = "02:4F:52:56:00:01",
            py::arg("ip_addr") = "", py::arg("subnet_mask") = "255.255.255.0",

@@ -15,6 +15,11 @@ void bindErrors(py::module_& m);
 void bindConstants(py::module_& m);
 void bindLink(py::module_& m);
 void bindSystem(py::module_& m);
+void bindSystemAnalog(py::module_& m);
+void bindNetwork(py::module_& m);
+void bindWifi(py::module_& m);
+void bindDiscovery(py::module_& m);
+void bindDigital(py::module_& m);
 void bindModels(py::module_& m);
 void installHooks(py::module_& m);
 

@@ -99,6 +99,11 @@ PYBIND11_MODULE(_pyorv, m) {
   bindConvert(m);
   bindLink(m);
   bindSystem(m);
+  bindSystemAnalog(m);
+  bindNetwork(m);
+  bindWifi(m);
+  bindDiscovery(m);
+  bindDigital(m);
   bindModels(m);
   bindSim(m);
   installHooks(m);

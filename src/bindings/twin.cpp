@@ -1,7 +1,6 @@
 #include "bindings/twin.hpp"
 
 #include <pybind11/eval.h>
-
 #include <pybind11/gil_safe_call_once.h>
 
 #include <condition_variable>
@@ -206,32 +205,66 @@ py::object startAwaitable(py::object keep, AsyncBody body) {
 }
 
 namespace {
-// Two coroutine functions, made once; an `async def` is the only way to hand
-// the host a real coroutine object.
-py::object& coroutineHelpers() {
-  static auto* scope = [] {
-    auto* d = new py::dict();
-    py::exec(R"(
-async def _await_call(start):
-    return await start()
 
-async def _run_now(f):
-    return f()
-)",
-             py::globals(), *d);
-    return d;
-  }();
-  return *scope;
+// What an awaitable call needs when its coroutine starts.
+struct PendingStart {
+  py::object keep;
+  AsyncBody body;
+};
+
+// A capsule that owns `p`: freed with the coroutine that holds it.
+template <class T>
+py::capsule owned(T* p) {
+  return py::capsule(p, [](void* q) { delete static_cast<T*>(q); });
 }
+
+// Made once: the two coroutine functions (an `async def` is the only way to
+// hand the host a real coroutine object) and the C++ steps they call.  A
+// function object made per call would cost more than the rest of the call's
+// setup together.
+struct Coroutines {
+  py::object await_call, run_now, start, run;
+};
+
+Coroutines& coroutines() {
+  PYBIND11_CONSTINIT static py::gil_safe_call_once_and_store<Coroutines> store;
+  return store
+      .call_once_and_store_result([] {
+        py::dict scope;
+        scope["__builtins__"] = py::module_::import("builtins");
+        py::exec(R"(
+async def _await_call(start, call):
+    return await start(call)
+
+async def _run_now(run, call):
+    return run(call)
+)",
+                 scope);
+        Coroutines c;
+        c.await_call = scope["_await_call"];
+        c.run_now = scope["_run_now"];
+        c.start = py::cpp_function([](const py::capsule& call) {
+          auto* p = call.get_pointer<PendingStart>();
+          return startAwaitable(p->keep, p->body);
+        });
+        c.run = py::cpp_function([](const py::capsule& call) {
+          return (*call.get_pointer<std::function<py::object()>>())();
+        });
+        return c;
+      })
+      .get_stored();
+}
+
 }  // namespace
 
 py::object makeCoroutine(py::object keep, AsyncBody body) {
-  py::cpp_function start([keep, body]() { return startAwaitable(keep, body); });
-  return coroutineHelpers()["_await_call"](start);
+  auto& c = coroutines();
+  return c.await_call(c.start, owned(new PendingStart{std::move(keep), std::move(body)}));
 }
 
 py::object immediateCoroutine(std::function<py::object()> f) {
-  return coroutineHelpers()["_run_now"](py::cpp_function(std::move(f)));
+  auto& c = coroutines();
+  return c.run_now(c.run, owned(new std::function<py::object()>(std::move(f))));
 }
 
 }  // namespace orv::py_bind

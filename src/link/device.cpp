@@ -141,6 +141,7 @@ void Device::recvLoop(Link& link) {
   std::vector<RawPacket> packets;
   while (!killed_.load()) {
     link.gate.pass(killed_);
+    if (killed_.load()) break;
     std::shared_ptr<Client> client = link.client();
     bool pause = false;
     try {
@@ -181,6 +182,14 @@ void Device::finishClose(std::initializer_list<Link*> links) {
   echo_.close();
   strm_.closeAll();
   for (Link* l : links) {
+    // A socket left open without a connection (a bind or connect that failed
+    // half way) may hold the thread in a read: shut it to wake the thread.
+    if (auto c = std::dynamic_pointer_cast<NetworkClient>(l->client()); c && c->hasSocket()) {
+      try {
+        c->disconnect();
+      } catch (const std::exception&) {
+      }
+    }
     l->gate.forceOpen();
     if (l->thread.joinable()) {
       if (l->thread.get_id() == std::this_thread::get_id())

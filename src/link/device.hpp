@@ -195,6 +195,11 @@ class NetworkDevice : public Device {
 
   bool connectStatusCmd() const { return cmd_.status; }
   std::optional<std::string> ipAddr() const;
+  // The address as the device reports it (NetworkModule shares ip_addr).
+  void setIpAddr(std::string ip_addr) {
+    std::lock_guard lk(m_);
+    ip_addr_ = std::move(ip_addr);
+  }
   std::shared_ptr<TCPClient> clientCmd() const;
 
  protected:

@@ -4,6 +4,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace orv {
@@ -22,6 +23,25 @@ using DigitalMap = std::map<int, std::vector<int>>;
 
 enum class DeviceKind { None, Usb, Ethernet, Wifi };
 
+// "USBDevice", "ETHDevice", "WifiDevice"; "" for None.
+const char* deviceClassName(DeviceKind kind);
+
+// What a model gives its analog input module.
+struct AiParams {
+  int max_rate = 0;       // top rate in Hz
+  double ratio = 0.0;     // volts per count of a signed 16-bit value
+  int num_channels = 0;   // channels per sample at start
+  bool variable = false;  // the _VARIABLE commands for on-demand reads and streaming
+};
+
+// What a model gives its analog output module.
+struct AoParams {
+  int volt_min = 0;  // bounds of a written value, volts
+  int volt_max = 0;
+  int channel = 0;  // channel count
+  int rate = 0;     // top sampling rate, Hz
+};
+
 struct ModelInfo {
   std::string class_name;
   std::string label;
@@ -35,6 +55,10 @@ struct ModelInfo {
   DigitalMap di_dict, do_dict;
   int dio_num_pins_per_port = 8;
 
+  // Meaningful where the model has "AI" and "AO".
+  AiParams ai;
+  AoParams ao;
+
   // Module parameters that are plain numbers or texts, by name.
   std::map<std::string, double, std::less<>> params;
 
@@ -44,12 +68,27 @@ struct ModelInfo {
     return false;
   }
   bool isWifi() const { return device == DeviceKind::Wifi; }
+  bool isUsb() const { return device == DeviceKind::Usb; }
+  bool isEthernet() const { return device == DeviceKind::Ethernet; }
 };
+
+using LabelEntries = std::vector<std::pair<std::string, std::string>>;
+using HandleGroups = std::vector<std::pair<std::string, std::vector<std::string>>>;
 
 // The row of a class name; a row with only the name for classes outside the
 // table (the bare device classes).
 const ModelInfo& modelInfo(std::string_view class_name);
 // Every model row, in the table's order.
 const std::vector<ModelInfo>& modelTable();
+// True for a class name of the table.
+bool isModel(std::string_view class_name);
+
+// LABEL_DICT in its order: the groups, the utility handles, then every model.
+const LabelEntries& labelEntries();
+// HANDLE_DICT in its order: "utilities", "wireless", "ethernet", "USB".
+const HandleGroups& handleGroups();
+// PRODUCT_LIST (wireless, ethernet and USB handles) and HANDLE_LIST (all).
+std::vector<std::string> productList();
+std::vector<std::string> handleList();
 
 }  // namespace orv

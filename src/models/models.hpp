@@ -2,7 +2,15 @@
 #pragma once
 
 #include "link/device.hpp"
+#include "digital/counter.hpp"
+#include "digital/dio.hpp"
+#include "digital/dpot.hpp"
+#include "digital/pwm.hpp"
+#include "digital/relay.hpp"
+#include "services/network.hpp"
 #include "services/system.hpp"
+#include "services/system_analog.hpp"
+#include "services/wifi.hpp"
 
 namespace orv {
 

@@ -1,5 +1,6 @@
 // The model table: every product of the family, its device class, label,
-// modules, port maps and parameters; and LABEL_DICT.
+// modules, port maps and parameters; and the catalogue tables built from it
+// (LABEL_DICT, HANDLE_DICT, PRODUCT_LIST, HANDLE_LIST).
 #include <map>
 #include <mutex>
 #include <string>
@@ -11,31 +12,282 @@ namespace orv {
 
 namespace {
 
+// Pins first..last.
+std::vector<int> pins(int first, int last) {
+  std::vector<int> out;
+  for (int p = first; p <= last; ++p) out.push_back(p);
+  return out;
+}
+
+// A map of the three Trellis analog and motion slots (slots 1, 2, 4).
+PortMap trellisSlots() { return {{0, {{1, 5}}}, {1, {{1, 5}}}, {3, {{1, 5}}}}; }
+
+DigitalMap trellisDigital() {
+  DigitalMap m;
+  for (int port = 0; port <= 7; ++port) m[port] = pins(0, 11);
+  return m;
+}
+
+// Maps of the USB family.
+const PortMap kPloverUart = {{1, {{2, 6}, {2, 7}}}, {2, {{3, 0}, {3, 1}}}};
+const PortMap kPloverI2C = {{1, {{0, 3}, {0, 4}}}, {2, {{1, 2}, {1, 3}}}};
+const PortMap kPloverSpiPort2 = {{2, {{3, 3}, {3, 4}, {3, 5}}}};
+const PortMap kPloverThermal = {{1, {{1, 5}, {2, 0}, {2, 1}, {2, 2}, {2, 3}}},
+                                {2, {{1, 5}, {2, 0}, {3, 3}, {3, 4}, {3, 5}}}};
+
+// Analog input parameters.
+constexpr double kRatio5V = 5.0 / 32768.0;    // 0.000152587890625
+constexpr double kRatio10V = 10.0 / 32768.0;  // 0.00030517578125
+constexpr AiParams kAiHeron{
+    .max_rate = 10000, .ratio = kRatio5V, .num_channels = 8, .variable = true};
+constexpr AiParams kAiHeronPlus{
+    .max_rate = 20000, .ratio = kRatio5V, .num_channels = 8, .variable = true};
+constexpr AiParams kAiKestrel{
+    .max_rate = 20000, .ratio = kRatio10V, .num_channels = 8, .variable = false};
+constexpr AiParams kAiPlover{
+    .max_rate = 16000, .ratio = kRatio10V, .num_channels = 8, .variable = true};
+constexpr AiParams kAiTrellis{
+    .max_rate = 12000, .ratio = kRatio10V, .num_channels = 8, .variable = false};
+
+// Analog output parameters.
+constexpr AoParams kAo10V{.volt_min = -10, .volt_max = 10, .channel = 8, .rate = 15000};
+constexpr AoParams kAoPlover{.volt_min = 0, .volt_max = 5, .channel = 8, .rate = 16000};
+
+using enum DeviceKind;
+
 std::vector<ModelInfo> makeTable() {
   std::vector<ModelInfo> t;
-  // clang-format off
-  t.push_back({.class_name = "Trellis", .label = "Trellis", .device = DeviceKind::Ethernet,
-               .data_logger = true, .modules = {"System", "Network"},
-               .dio_num_pins_per_port = 12});
-  t.push_back({.class_name = "HeronAin", .label = "Heron-Ain", .device = DeviceKind::Wifi,
-               .data_logger = true, .modules = {"System", "SystemAnalog", "Network", "Wifi"}});
-  // clang-format on
+  const PortMap heron_ai = {{0, {{1, 5}}}};
+
+  // ---- Wi-Fi ----
+  t.push_back({.class_name = "HeronAinImu",
+               .label = "Heron-Ain-Imu",
+               .device = Wifi,
+               .data_logger = true,
+               .modules = {"System", "SystemAnalog", "Network", "Wifi", "AI", "AHRS"},
+               .ai_dict = heron_ai,
+               .ahrs_dict = {{0, {{1, 5}}}},
+               .ai = kAiHeron});
+  t.push_back({.class_name = "HeronAin",
+               .label = "Heron-Ain",
+               .device = Wifi,
+               .data_logger = true,
+               .modules = {"System", "SystemAnalog", "Network", "Wifi", "AI"},
+               .ai_dict = heron_ai,
+               .ai = kAiHeron});
+  t.push_back({.class_name = "HeronAinPlus",
+               .label = "Heron-Ain-Plus",
+               .device = Wifi,
+               .data_logger = true,
+               .modules = {"System", "SystemAnalog", "Network", "Wifi", "AI"},
+               .ai_dict = heron_ai,
+               .ai = kAiHeronPlus});
+
+  // ---- Ethernet ----
+  t.push_back({.class_name = "Trellis",
+               .label = "Trellis",
+               .device = Ethernet,
+               .data_logger = true,
+               .modules = {"System", "Network", "AI", "AO", "DIO", "MCX514"},
+               .ai_dict = trellisSlots(),
+               .ao_dict = trellisSlots(),
+               .motion_dict = trellisSlots(),
+               .di_dict = trellisDigital(),
+               .do_dict = trellisDigital(),
+               .dio_num_pins_per_port = 12,
+               .ai = kAiTrellis,
+               .ao = kAo10V});
+  // An empty class: no device, no module.
+  t.push_back({.class_name = "TrellisLite", .label = "Trellis-Lite", .device = None});
+  t.push_back({.class_name = "MerlinDrive",
+               .label = "Merlin-Drive",
+               .device = Ethernet,
+               .data_logger = false,
+               .modules = {"System", "Network", "TMC5240"},
+               .mrdr_dict = {{0, {{1, 5}}}}});
+  t.push_back({.class_name = "MerlinAxis",
+               .label = "Merlin-Axis",
+               .device = Ethernet,
+               .data_logger = true,
+               .modules = {"MCX514", "System", "Network"},
+               .motion_dict = {{0, {{1, 5}}}}});
+  t.push_back({.class_name = "KestrelAin",
+               .label = "Kestrel-Ain",
+               .device = Ethernet,
+               .data_logger = true,
+               .modules = {"System", "Network", "AI"},
+               .ai_dict = {{0, {{1, 11}}}},
+               .ai = kAiKestrel});
+  t.push_back({.class_name = "KestrelDio",
+               .label = "Kestrel-Dio",
+               .device = Ethernet,
+               .data_logger = true,
+               .modules = {"System", "Network", "DIO", "PWM"},
+               .di_dict = {{1, pins(0, 7)}},
+               .do_dict = {{0, pins(0, 5)}}});
+  t.push_back({.class_name = "KestrelDioX",
+               .label = "Kestrel-Dio_X",
+               .device = Ethernet,
+               .data_logger = true,
+               .modules = {"System", "Network", "DIO"},
+               .di_dict = {{2, pins(0, 7)}, {3, pins(0, 7)}},
+               .do_dict = {{0, pins(0, 7)}, {1, pins(0, 7)}}});
+  t.push_back({.class_name = "KestrelCin",
+               .label = "Kestrel-Cin",
+               .device = Ethernet,
+               .data_logger = true,
+               .modules = {"System", "Network", "AI24Bit"}});
+  t.push_back({.class_name = "KestrelCvin",
+               .label = "Kestrel-Cvin",
+               .device = Ethernet,
+               .data_logger = true,
+               .modules = {"System", "Network", "AI24Bit"}});
+  t.push_back({.class_name = "KestrelRelay",
+               .label = "Kestrel-Relay",
+               .device = Ethernet,
+               .data_logger = true,
+               .modules = {"System", "Network", "DIO", "Relay"},
+               .di_dict = {{1, pins(0, 5)}},
+               .do_dict = {{0, pins(0, 5)}}});
+  t.push_back({.class_name = "KestrelAout",
+               .label = "Kestrel-Aout",
+               .device = Ethernet,
+               .data_logger = true,
+               .modules = {"System", "Network", "AO"},
+               .ao_dict = {{0, {{3, 11}}}},
+               .ao = kAo10V});
+  t.push_back({.class_name = "KestrelRes",
+               .label = "Kestrel-Res",
+               .device = Ethernet,
+               .data_logger = true,
+               .modules = {"System", "Network", "DPOT"}});
+  t.push_back({.class_name = "KestrelTherm",
+               .label = "Kestrel-Therm",
+               .device = Ethernet,
+               .data_logger = true,
+               .modules = {"System", "Network", "Thermocouple"},
+               .thermal_dict = {{1, {{3, 11}}}}});
+
+  // ---- USB ----
+  const DigitalMap ain_can_dio = {{0, pins(0, 7)}, {1, pins(0, 3)}, {2, {6, 7}}, {3, pins(0, 5)}};
+  const DigitalMap tc_rtd_dio = {{0, pins(0, 7)}, {1, pins(0, 4)}, {2, {6, 7}}, {3, pins(0, 5)}};
+  const DigitalMap dio_dio = {
+      {0, pins(0, 7)}, {1, pins(0, 5)}, {2, {0, 1, 2, 3, 6, 7}}, {3, pins(0, 5)}};
+  const DigitalMap aio_dio = {{0, pins(0, 7)}, {1, pins(0, 3)}, {2, {6, 7}}, {3, {0, 1}}};
+
+  t.push_back({.class_name = "PloverDio",
+               .label = "Plover-Dio",
+               .device = Usb,
+               .data_logger = true,
+               .modules = {"System", "UART", "I2C", "SPI", "DIO", "Counter", "PWM"},
+               .uart_dict = kPloverUart,
+               .I2C_dict = kPloverI2C,
+               .SPI_dict = {{1, {{2, 1}, {2, 2}, {2, 3}}}, {2, {{3, 3}, {3, 4}, {3, 5}}}},
+               .di_dict = dio_dio,
+               .do_dict = dio_dio});
+  t.push_back({.class_name = "PloverAin",
+               .label = "Plover-Ain",
+               .device = Usb,
+               .data_logger = true,
+               .modules = {"System", "UART", "I2C", "SPI", "AI", "DIO", "Counter", "PWM"},
+               .ai_dict = {{0, {{1, 5}}}},
+               .uart_dict = kPloverUart,
+               .I2C_dict = kPloverI2C,
+               .SPI_dict = kPloverSpiPort2,
+               .di_dict = ain_can_dio,
+               .do_dict = ain_can_dio,
+               .ai = kAiPlover});
+  t.push_back({.class_name = "PloverTc",
+               .label = "Plover-Tc",
+               .device = Usb,
+               .data_logger = true,
+               .modules = {"System", "UART", "I2C", "SPI", "Thermocouple", "DIO", "Counter", "PWM"},
+               .thermal_dict = kPloverThermal,
+               .uart_dict = kPloverUart,
+               .I2C_dict = kPloverI2C,
+               .SPI_dict = kPloverSpiPort2,
+               .di_dict = tc_rtd_dio,
+               .do_dict = tc_rtd_dio});
+  t.push_back({.class_name = "PloverCan",
+               .label = "Plover-Can",
+               .device = Usb,
+               .data_logger = true,
+               .modules = {"System", "UART", "I2C", "SPI", "CAN", "DIO", "Counter", "PWM"},
+               .uart_dict = kPloverUart,
+               .I2C_dict = kPloverI2C,
+               .SPI_dict = kPloverSpiPort2,
+               .can_dict = {{1, {{1, 4}, {1, 5}, {2, 0}, {2, 1}, {2, 2}, {2, 3}}}},
+               .di_dict = ain_can_dio,
+               .do_dict = ain_can_dio});
+  t.push_back({.class_name = "PloverSink",
+               .label = "Plover-Sink",
+               .device = Usb,
+               .data_logger = true,
+               .modules = {"System", "DIO", "Counter", "PWM"},
+               .di_dict = {{0, pins(0, 7)}, {1, pins(0, 5)}},
+               .do_dict = {{2, pins(0, 7)}, {3, pins(0, 3)}}});
+  t.push_back({.class_name = "PloverAio",
+               .label = "Plover-Aio",
+               .device = Usb,
+               .data_logger = true,
+               .modules = {"System", "UART", "I2C", "AI", "AO", "DIO", "Counter", "PWM"},
+               .ai_dict = {{0, {{1, 5}}}},
+               .ao_dict = {{0, {{1, 4}}}},
+               .uart_dict = kPloverUart,
+               .I2C_dict = kPloverI2C,
+               .di_dict = aio_dio,
+               .do_dict = aio_dio,
+               .ai = kAiPlover,
+               .ao = kAoPlover});
+  t.push_back(
+      {.class_name = "PloverRtd",
+       .label = "Plover-Rtd",
+       .device = Usb,
+       .data_logger = true,
+       .modules = {"System", "UART", "I2C", "SPI", "ThermalResistance", "DIO", "Counter", "PWM"},
+       .thermal_dict = kPloverThermal,
+       .uart_dict = kPloverUart,
+       .I2C_dict = kPloverI2C,
+       .SPI_dict = kPloverSpiPort2,
+       .di_dict = tc_rtd_dio,
+       .do_dict = tc_rtd_dio});
   return t;
 }
 
-// LABEL_DICT entries that are not model classes.
-const std::map<std::string, std::string, std::less<>> kOtherLabels = {
-    {"utilities", "Utilities"},       {"wireless", "Wifi devices"},
-    {"ethernet", "Ethernet devices"}, {"USB", "USB devices"},
+// The handles that are not products, and the display texts of the groups.
+const std::vector<std::string> kUtilities = {"DeviceFinder", "DataLogger"};
+const LabelEntries kOtherLabels = {
+    {"utilities", "Utilities"},         {"wireless", "Wifi devices"},
+    {"ethernet", "Ethernet devices"},   {"USB", "USB devices"},
     {"product_list", "Products Usage"}, {"DeviceFinder", "Device finder"},
     {"DataLogger", "Data logger"},
 };
 
 }  // namespace
 
+const char* deviceClassName(DeviceKind kind) {
+  switch (kind) {
+    case DeviceKind::Usb:
+      return "USBDevice";
+    case DeviceKind::Ethernet:
+      return "ETHDevice";
+    case DeviceKind::Wifi:
+      return "WifiDevice";
+    case DeviceKind::None:
+      break;
+  }
+  return "";
+}
+
 const std::vector<ModelInfo>& modelTable() {
   static const std::vector<ModelInfo> table = makeTable();
   return table;
+}
+
+bool isModel(std::string_view class_name) {
+  for (const auto& row : modelTable())
+    if (row.class_name == class_name) return true;
+  return false;
 }
 
 const ModelInfo& modelInfo(std::string_view class_name) {
@@ -55,16 +307,62 @@ const ModelInfo& modelInfo(std::string_view class_name) {
   return it->second;
 }
 
-std::map<std::string, std::string> labelDict() {
-  std::map<std::string, std::string> out(kOtherLabels.begin(), kOtherLabels.end());
-  for (const auto& row : modelTable()) out[row.class_name] = row.label;
+const LabelEntries& labelEntries() {
+  static const LabelEntries entries = [] {
+    LabelEntries out = kOtherLabels;
+    for (const auto& row : modelTable()) out.emplace_back(row.class_name, row.label);
+    return out;
+  }();
+  return entries;
+}
+
+const HandleGroups& handleGroups() {
+  static const HandleGroups groups = [] {
+    HandleGroups out = {{"utilities", kUtilities}, {"wireless", {}}, {"ethernet", {}}, {"USB", {}}};
+    for (const auto& row : modelTable()) {
+      switch (row.device) {
+        case DeviceKind::Wifi:
+          out[1].second.push_back(row.class_name);
+          break;
+        case DeviceKind::Ethernet:
+          out[2].second.push_back(row.class_name);
+          break;
+        case DeviceKind::Usb:
+          out[3].second.push_back(row.class_name);
+          break;
+        case DeviceKind::None:  // TrellisLite: nothing to connect
+          break;
+      }
+    }
+    return out;
+  }();
+  return groups;
+}
+
+std::vector<std::string> productList() {
+  std::vector<std::string> out;
+  for (const auto& [group, names] : handleGroups())
+    if (group != "utilities") out.insert(out.end(), names.begin(), names.end());
   return out;
+}
+
+std::vector<std::string> handleList() {
+  std::vector<std::string> out;
+  for (const auto& [group, names] : handleGroups())
+    out.insert(out.end(), names.begin(), names.end());
+  return out;
+}
+
+std::map<std::string, std::string> labelDict() {
+  const auto& e = labelEntries();
+  return {e.begin(), e.end()};
 }
 
 // _getDeviceName: LABEL_DICT of the class name; the class name itself for the
 // bare device classes.
 std::string labelFor(const std::string& class_name) {
-  if (auto it = kOtherLabels.find(class_name); it != kOtherLabels.end()) return it->second;
+  for (const auto& [key, label] : kOtherLabels)
+    if (key == class_name) return label;
   return modelInfo(class_name).label;
 }
 

@@ -255,7 +255,10 @@ def test_result_delivered_after_its_loop_closed_is_dropped(eth, eth_sim):
     loop = asyncio.new_event_loop()
 
     async def start():
-        return eth._echoPacketWithRetry_async(pyorv.GET_DRIVER_INFO, [0])
+        task = asyncio.ensure_future(eth._echoPacketWithRetry_async(pyorv.GET_DRIVER_INFO, [0]))
+        await asyncio.sleep(0.05)  # the call now runs on a worker
+        assert not task.done()
+        return task
 
     loop.run_until_complete(start())
     loop.close()  # the worker completes into a closed loop and must survive it
@@ -326,3 +329,17 @@ def test_broadcast_collects_each_answer_once(simulator):
     assert len(answers) == 3  # three devices, three sends each, one entry per device
     assert 5.0 <= took < 7.0
     assert all(a.startswith(bytes([127, 0, 0, 1])) for a in answers)
+
+
+def test_close_after_a_failed_bind_ends_the_thread():
+    import socket
+    blocker = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
+    blocker.bind(("", pyorv.UDP_RECV_PORT))
+    try:
+        finder = pyorv.BroadcastDevice(verbose=False, broadcast_addr="127.0.0.1")
+        with pytest.raises(pyorv.NetworkConnectionError):
+            finder.connect(verbose=False)
+        finder.close(verbose=False)  # must not wait on the socket that never bound
+        assert finder._aliveThreads() == []
+    finally:
+        blocker.close()

@@ -1,0 +1,179 @@
+"""PWM outputs and pulse counters against simulated devices: the channel checks
+and their crossed errors, F32 packing on the wire, firmware statuses, the
+counter reply, and a counter that counts a running PWM channel."""
+
+import asyncio
+import struct
+import time
+
+import pytest
+
+import pyorv
+import pyorv.sim as sim
+
+OPEN_PWM, START_PWM, STOP_PWM, CLOSE_PWM, SET_PWM_FREQUENCY, SET_PWM_DUTY_CYCLE = range(80, 86)
+PULSE_OPEN, PULSE_START, PULSE_READ, PULSE_STOP, PULSE_CLOSE = range(4128, 4133)
+
+
+@pytest.fixture
+def plover(simulator):
+    """PloverDio over the virtual USB backend: two PWM channels, two counters."""
+    s = simulator.add_device(sim.DeviceConfig(model="PloverDio", serial="SIMPWM01"))
+    dev = pyorv.PloverDio(verbose=False)
+    dev.connect(s.serial, verbose=False)
+    yield dev, s
+    dev.close(verbose=False)
+
+
+@pytest.fixture
+def kestrel(simulator):
+    """KestrelDio over Ethernet: PWM without counters."""
+    s = simulator.add_device(sim.DeviceConfig(model="KestrelDio", serial="SIMPWM02"))
+    dev = pyorv.KestrelDio(verbose=False)
+    dev.connect(s.host, s.cmd_port, verbose=False)
+    yield dev, s
+    dev.close(verbose=False)
+
+
+def last(s):
+    p = s.packets()[-1]
+    return p.cmd, bytes(p.data)
+
+
+def test_models_have_the_modules_of_their_row():
+    assert issubclass(pyorv.KestrelDio, pyorv.PWMModule)
+    assert not issubclass(pyorv.KestrelDio, pyorv.CounterModule)
+    assert issubclass(pyorv.PloverSink, pyorv.CounterModule)
+
+
+@pytest.mark.parametrize("call", [
+    lambda d: d.PWM_open(2), lambda d: d.PWM_start(-1), lambda d: d.PWM_stop("0"),
+    lambda d: d.PWM_close(None), lambda d: d.PWM_setFrequency(2, 1000),
+    lambda d: d.PWM_setDutyCycle(1.5, 50),
+])
+def test_bad_pwm_channel_reports_the_counter_error(plover, call):
+    dev, s = plover
+    with pytest.raises(pyorv.CounterChannelNotAvaliableError) as info:
+        call(dev)
+    assert info.value.code == -8103
+    assert s.packet_count() == 0
+
+
+@pytest.mark.parametrize("call", [
+    lambda d: d.Counter_open(2), lambda d: d.Counter_start(-1), lambda d: d.Counter_read(3),
+    lambda d: d.Counter_stop("1"), lambda d: d.Counter_close(0.5),
+])
+def test_bad_counter_channel_reports_the_pwm_error(plover, call):
+    dev, s = plover
+    with pytest.raises(pyorv.PWMChannelNotAvaliableError) as info:
+        call(dev)
+    assert info.value.code == -8102
+    assert s.packet_count() == 0
+
+
+@pytest.mark.parametrize("op, value, payload", [
+    ("PWM_setFrequency", 1000, bytes([0, 0x44, 0x7A, 0, 0])),
+    ("PWM_setDutyCycle", 50, bytes([0, 0x42, 0x48, 0, 0])),
+    ("PWM_setDutyCycle", 0.1, bytes([0]) + struct.pack(">f", 0.1)),
+    ("PWM_setDutyCycle", -5, bytes([0]) + struct.pack(">f", -5)),  # no range on the host
+])
+def test_f32_values_on_the_wire(kestrel, op, value, payload):
+    dev, s = kestrel
+    assert getattr(dev, op)(0, value) == 0
+    assert last(s) == ({"PWM_setFrequency": SET_PWM_FREQUENCY,
+                        "PWM_setDutyCycle": SET_PWM_DUTY_CYCLE}[op], payload)
+
+
+def test_non_number_fails_in_packing_before_sending(kestrel):
+    dev, s = kestrel
+    with pytest.raises(TypeError):
+        dev.PWM_setFrequency(0, "1000")
+    with pytest.raises(TypeError):
+        dev.PWM_setDutyCycle(1, [50])
+    assert s.packet_count() == 0
+
+
+def test_channel_true_and_float_one_pass_the_check(kestrel):
+    dev, s = kestrel
+    assert dev.PWM_open(True) == 0
+    assert last(s) == (OPEN_PWM, bytes([1]))
+    # 1.0 passes the check by value; a float does not become a payload byte.
+    with pytest.raises(TypeError):
+        dev.PWM_open(1.0)
+    assert s.packet_count() == 1
+
+
+def test_status_replies_and_firmware_codes(kestrel):
+    dev, s = kestrel
+    assert dev.PWM_start(0) == -7009  # not open: the simulated firmware refuses
+    assert dev.PWM_open(0) == 0 and dev.PWM_start(0) == 0
+    assert dev.PWM_setFrequency(0, 0) == -7009
+    assert dev.PWM_stop(0) == 0 and dev.PWM_close(0) == 0
+    assert [p.cmd for p in s.packets()] == [START_PWM, OPEN_PWM, START_PWM, SET_PWM_FREQUENCY,
+                                            STOP_PWM, CLOSE_PWM]
+    assert all(bytes(p.data) == b"\x00" for p in s.packets()[:3])
+
+
+def test_the_simulated_channel_keeps_frequency_and_duty(kestrel):
+    dev, s = kestrel
+    dev.PWM_open(1)
+    dev.PWM_setFrequency(1, 2500.5)
+    dev.PWM_setDutyCycle(1, 25)
+    dev.PWM_start(1)
+    assert s.state_get("pwm.1.frequency") == 2500.5
+    assert s.state_get("pwm.1.duty_cycle") == 25.0
+    assert s.state_get("pwm.1.running") is True
+
+
+@pytest.mark.parametrize("reply, result", [
+    (bytes([0, 0, 0, 0, 0, 0x01, 0x02]), 258),
+    (bytes([9, 9, 9, 9, 9, 0xFF, 0xFF]), 65535),  # bytes 0 to 4 are not looked at
+])
+def test_counter_read_decodes_from_byte_5(plover, reply, result):
+    dev, s = plover
+    s.set_handler(PULSE_READ, lambda ctx, req: ctx.reply(reply))
+    assert dev.Counter_read(1) == result
+    assert last(s) == (PULSE_READ, bytes([1]))
+
+
+@pytest.mark.parametrize("reply", [bytes([0, 0, 0, 0, 0, 1]), bytes([0] * 8), bytes([0, 11])])
+def test_counter_read_of_another_length_fails_in_the_conversion(plover, reply):
+    dev, s = plover
+    s.set_handler(PULSE_READ, lambda ctx, req: ctx.reply(reply))
+    with pytest.raises(ValueError):
+        dev.Counter_read(0)
+
+
+def test_counter_counts_a_running_pwm_channel(plover):
+    dev, s = plover
+    assert dev.PWM_open(0) == 0 and dev.PWM_setFrequency(0, 1000) == 0
+    assert dev.Counter_open(0) == 0 and dev.Counter_start(0) == 0
+    assert dev.Counter_read(0) == 0  # the PWM channel is not running yet
+    t0 = time.monotonic()
+    assert dev.PWM_start(0) == 0
+    time.sleep(0.05)
+    assert dev.PWM_stop(0) == 0
+    elapsed = time.monotonic() - t0
+    count = dev.Counter_read(0)
+    assert 0 < count <= 1000 * elapsed + 1
+    time.sleep(0.02)
+    assert dev.Counter_read(0) == count  # a stopped PWM channel gives no pulses
+    assert dev.Counter_read(1) == 0       # counter 1 counts PWM channel 1
+    assert dev.Counter_stop(0) == 0 and dev.Counter_close(0) == 0
+
+
+def test_awaitable_twins(plover):
+    dev, s = plover
+    s.set_handler(PULSE_READ, lambda ctx, req: ctx.reply(bytes([0, 0, 0, 0, 0, 0x12, 0x34])))
+
+    async def run():
+        with pytest.raises(pyorv.CounterChannelNotAvaliableError):
+            await dev.PWM_open_async(5)
+        assert await dev.PWM_open_async(1) == 0
+        assert await dev.PWM_setFrequency_async(1, 1000) == 0
+        return await dev.Counter_read_async(0)
+
+    assert asyncio.run(run()) == 0x1234
+    assert [(p.cmd, bytes(p.data)) for p in s.packets()] == [
+        (OPEN_PWM, b"\x01"), (SET_PWM_FREQUENCY, bytes([1, 0x44, 0x7A, 0, 0])),
+        (PULSE_READ, b"\x00")]
