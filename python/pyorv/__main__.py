@@ -67,17 +67,28 @@ def cmd_demo(args):
             dev.connect(sim_dev.host, sim_dev.cmd_port)
             sim_dev.wait_for_host(sim.Channel.Cmd, 5.0)
 
-            info = _text(dev._echoPacketWithRetry(pyorv.GET_DRIVER_INFO, [0], timeout=3))
-            print(f"driver info            {info.split('_')}")
+            if hasattr(dev, "Sys_getDriverInfo"):
+                # The system services of the model.
+                print(f"driver info            {dev.Sys_getDriverInfo()}")
+                info_async = asyncio.run(dev.Sys_getDriverInfo_async())
+                print(f"driver info, awaitable {info_async}")
+                print(f"serial number          {dev.Sys_getSerialNumber()}")
+                print(f"clock                  {dev.Sys_getRTC()}")
+                if hasattr(dev, "Net_getIPAddrAndSubmask"):
+                    print(f"address and mask       {dev.Net_getIPAddrAndSubmask()}")
+                    print(f"MAC address            {dev.Net_getMACAddr()}")
+                print(f"pin modes of port 0    {dev.Sys_getPinModeInPort(0)}")
+            else:
+                info = _text(dev._echoPacketWithRetry(pyorv.GET_DRIVER_INFO, [0], timeout=3))
+                print(f"driver info            {info.split('_')}")
 
-            async def awaitable_info():
-                return await dev._echoPacketWithRetry_async(pyorv.GET_DRIVER_INFO, [0])
+                async def awaitable_info():
+                    return await dev._echoPacketWithRetry_async(pyorv.GET_DRIVER_INFO, [0])
 
-            info_async = _text(asyncio.run(awaitable_info()))
-            print(f"driver info, awaitable {info_async.split('_')}")
-
-            serial = _text(dev._echoPacketWithRetry(GET_SERIAL_NUMBER, [], timeout=3)[:8])
-            print(f"serial number          {serial}")
+                info_async = _text(asyncio.run(awaitable_info()))
+                print(f"driver info, awaitable {info_async.split('_')}")
+                serial = _text(dev._echoPacketWithRetry(GET_SERIAL_NUMBER, [], timeout=3)[:8])
+                print(f"serial number          {serial}")
 
             start = time.perf_counter()
             for _ in range(DEMO_COMMANDS):

@@ -1,0 +1,36 @@
+"""The command line: the demo runs to its end, and find refuses to broadcast
+outside loopback unless told to."""
+
+import os
+import subprocess
+import sys
+
+import pytest
+
+
+def run(*args, env=None, timeout=120):
+    return subprocess.run([sys.executable, "-m", "pyorv", *args], capture_output=True, text=True,
+                          timeout=timeout, env=env)
+
+
+def test_demo_runs_to_its_end():
+    out = run("demo")
+    assert out.returncode == 0, out.stderr
+    lines = out.stdout.splitlines()
+    assert lines[-1] == "demo done"
+    assert "Opened handle (Trellis)" in lines and "Closed handle (Trellis)" in lines
+    assert any(line.startswith("driver info") and "'Trellis'" in line for line in lines)
+    assert any("recorded 2 packets [240, 240]" in line for line in lines)
+
+
+def test_find_without_a_target_refuses_to_broadcast():
+    env = {k: v for k, v in os.environ.items() if k != "PYORV_BROADCAST_ADDR"}
+    out = run("find", env=env, timeout=30)
+    assert out.returncode == 2
+    assert "--broadcast" in out.stderr
+
+
+@pytest.mark.parametrize("host", ["203.0.113.5", "198.51.100.7"])
+def test_sim_refuses_non_loopback_hosts(host):
+    out = run("sim", "--host", host, timeout=30)
+    assert out.returncode == 2
