@@ -201,7 +201,8 @@ def cmd_find(args):
         host, port = _split_host_port(target, pyorv.UDP_SEND_PORT)
     except argparse.ArgumentTypeError as e:
         return _fail(f"broadcast target: {e}", 2)
-    finder = pyorv.BroadcastDevice(verbose=False, broadcast_addr=f"{host}:{port}")
+    finder_class = getattr(pyorv, "DeviceFinder", pyorv.BroadcastDevice)
+    finder = finder_class(verbose=False, broadcast_addr=f"{host}:{port}")
     try:
         finder.connect(verbose=False)
     except (pyorv.Error, OSError) as e:
@@ -246,6 +247,25 @@ def cmd_info(args):
     finally:
         dev.close(verbose=False)
     print(f"{host}:{port} driver info {info.split('_')} serial number {serial}")
+    # The model named by the driver text knows the clock and network services.
+    model = getattr(pyorv, info.split("_")[0], None)
+    if model is None or not issubclass(model, pyorv.NetworkDevice) or \
+            not hasattr(model, "Sys_getRTC"):
+        return 0
+    dev = model(verbose=False)
+    try:
+        dev.connect(host, port, verbose=False)
+        print(f"model                  {dev._getDeviceName()}")
+        print(f"clock                  {dev.Sys_getRTC()}")
+        if hasattr(dev, "Net_getIPAddrAndSubmask"):
+            print(f"address and mask       {dev.Net_getIPAddrAndSubmask()}")
+            print(f"gateway                {dev.Net_getGateway()}")
+            print(f"MAC address            {dev.Net_getMACAddr()}")
+        dev.disconnect(verbose=False)
+    except (pyorv.Error, OSError) as e:
+        return _fail(f"{host}:{port}: {e}")
+    finally:
+        dev.close(verbose=False)
     return 0
 
 
