@@ -55,6 +55,41 @@ def _driver_class():
 
 # ---- demo -----------------------------------------------------------------------------
 
+def _demo_digital(simulator):
+    """Digital I/O on a simulated KestrelDioX on its own link: an output pin
+    wired to an input pin in the simulator reads back what was written."""
+    import pyorv.sim as sim
+
+    model = getattr(pyorv, "KestrelDioX", None)
+    if model is None or not hasattr(model, "DO_writePins"):
+        return
+    sim_dev = simulator.add_device(sim.DeviceConfig(model="KestrelDioX", serial="SIMDIO01"))
+    sim_dev.state_set("dio.loopback", [[0, 3, 2, 5]])  # DO port 0 pin 3 -> DI port 2 pin 5
+    dev = model(verbose=False)
+    try:
+        if sim_dev.link == sim.Link.Usb:
+            dev.connect(sim_dev.serial, verbose=False)
+        else:
+            dev.connect(sim_dev.host, sim_dev.cmd_port, verbose=False)
+        dev.DO_openPins(0, [3])
+        dev.DI_openPins(2, [5])
+        seen = []
+        for level in (1, 0):
+            dev.DO_writePins(0, [3], [level])
+            seen.append(dev.DI_readPins(2, [5])[0])
+
+        async def awaitable_loopback():
+            await dev.DO_writePins_async(0, [3], [1])
+            return (await dev.DI_readPins_async(2, [5]))[0]
+
+        seen.append(asyncio.run(awaitable_loopback()))
+        print(f"digital loopback       KestrelDioX DO 0.3 -> DI 2.5 wrote 1, 0, 1 "
+              f"(awaitable) and read {seen[0]}, {seen[1]}, {seen[2]}")
+        dev.disconnect(verbose=False)
+    finally:
+        dev.close(verbose=False)
+
+
 def cmd_demo(args):
     import pyorv.sim as sim
 
@@ -108,6 +143,7 @@ def cmd_demo(args):
             print(f"fault injection        one reply dropped, recovered by a retry in "
                   f"{took:.2f} s; the simulator recorded {len(sent)} packets {sent}")
             dev.disconnect()
+            _demo_digital(simulator)
         finally:
             dev.close()
     print("demo done")

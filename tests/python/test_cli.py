@@ -21,6 +21,8 @@ def test_demo_runs_to_its_end():
     assert "Opened handle (Trellis)" in lines and "Closed handle (Trellis)" in lines
     assert any(line.startswith("driver info") and "'Trellis'" in line for line in lines)
     assert any("recorded 2 packets [240, 240]" in line for line in lines)
+    assert any(line.startswith("digital loopback") and line.endswith("read 1, 0, 1")
+               for line in lines)
 
 
 def test_find_without_a_target_refuses_to_broadcast():
