@@ -1,6 +1,12 @@
 // Device configuration helpers.
 #include "sim/config.hpp"
 
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <cerrno>
 #include <cstdio>
 
 #include "link/error.hpp"
@@ -136,6 +142,31 @@ DeviceConfig normalized(DeviceConfig cfg) {
     throw ValueError("simulated device: host must be an IPv4 address, not '" + cfg.host + "'");
   }
   return cfg;
+}
+
+int bindSocket(int type, const std::string& host, int port, int* bound_port) {
+  sockaddr_in addr{};
+  addr.sin_family = AF_INET;
+  addr.sin_port = htons(static_cast<uint16_t>(port));
+  const std::string h = host == "localhost" ? "127.0.0.1" : host;
+  if (::inet_pton(AF_INET, h.c_str(), &addr.sin_addr) != 1)
+    throw ValueError("simulator: not an IPv4 address: '" + host + "'");
+  const int fd = ::socket(AF_INET, type | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+  if (fd < 0) throw OSError(errno, "simulator: socket");
+  const int one = 1;
+  ::setsockopt(fd, SOL_SOCKET, SO_REUSEADDR, &one, sizeof one);
+  if (::bind(fd, reinterpret_cast<sockaddr*>(&addr), sizeof addr) != 0 ||
+      (type == SOCK_STREAM && ::listen(fd, 4) != 0)) {
+    const int err = errno;
+    ::close(fd);
+    throw OSError(err, std::string("simulator: cannot ") +
+                           (type == SOCK_STREAM ? "listen on " : "bind UDP ") + h + ":" +
+                           std::to_string(port));
+  }
+  socklen_t len = sizeof addr;
+  ::getsockname(fd, reinterpret_cast<sockaddr*>(&addr), &len);
+  *bound_port = ntohs(addr.sin_port);
+  return fd;
 }
 
 }  // namespace orv::sim

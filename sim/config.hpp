@@ -55,4 +55,9 @@ std::string formatIPv4(const unsigned char in[4]);
 std::string formatMac(const unsigned char in[6]);
 bool isLoopbackHost(std::string_view host);
 
+// A non-blocking IPv4 socket of `type` (SOCK_STREAM or SOCK_DGRAM) bound to
+// host:port (port 0: an ephemeral one); the bound port goes to *bound_port.
+// orv::ValueError on a malformed host, orv::OSError when the system refuses.
+int bindSocket(int type, const std::string& host, int port, int* bound_port);
+
 }  // namespace orv::sim

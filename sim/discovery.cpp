@@ -34,25 +34,7 @@ Bytes deviceInfoAnswer(const SimDevice& dev) {
 
 Discovery::Discovery(const std::string& host, int port, int reply_port, DeviceList devices)
     : devices_(std::move(devices)), reply_port_(reply_port) {
-  sockaddr_in addr{};
-  addr.sin_family = AF_INET;
-  addr.sin_port = htons(static_cast<uint16_t>(port));
-  const std::string h = host == "localhost" ? "127.0.0.1" : host;
-  if (::inet_pton(AF_INET, h.c_str(), &addr.sin_addr) != 1) {
-    throw ValueError("simulator: not an IPv4 address: '" + host + "'");
-  }
-  fd_ = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-  if (fd_ < 0) throw OSError(errno, "simulator: socket");
-  const int one = 1;
-  ::setsockopt(fd_, SOL_SOCKET, SO_REUSEADDR, &one, sizeof one);
-  if (::bind(fd_, reinterpret_cast<sockaddr*>(&addr), sizeof addr) != 0) {
-    const int err = errno;
-    ::close(fd_);
-    throw OSError(err, "simulator: cannot bind UDP " + h + ":" + std::to_string(port));
-  }
-  socklen_t len = sizeof addr;
-  ::getsockname(fd_, reinterpret_cast<sockaddr*>(&addr), &len);
-  port_ = ntohs(addr.sin_port);
+  fd_ = bindSocket(SOCK_DGRAM, host, port, &port_);
   thread_ = std::thread([this] { run(); });
 }
 

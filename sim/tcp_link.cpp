@@ -34,26 +34,7 @@ void drain(int fd) {
 TcpLink::TcpLink(Channel ch, const std::string& host, int port, Stopper& stopper,
                  OnPacket on_packet)
     : ch_(ch), stopper_(stopper), on_packet_(std::move(on_packet)) {
-  sockaddr_in addr{};
-  addr.sin_family = AF_INET;
-  addr.sin_port = htons(static_cast<uint16_t>(port));
-  const std::string h = host == "localhost" ? "127.0.0.1" : host;
-  if (::inet_pton(AF_INET, h.c_str(), &addr.sin_addr) != 1) {
-    throw ValueError("simulator: not an IPv4 address: '" + host + "'");
-  }
-  listen_fd_ = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-  if (listen_fd_ < 0) throw OSError(errno, "simulator: socket");
-  const int one = 1;
-  ::setsockopt(listen_fd_, SOL_SOCKET, SO_REUSEADDR, &one, sizeof one);
-  if (::bind(listen_fd_, reinterpret_cast<sockaddr*>(&addr), sizeof addr) != 0 ||
-      ::listen(listen_fd_, 4) != 0) {
-    const int err = errno;
-    ::close(listen_fd_);
-    throw OSError(err, "simulator: cannot listen on " + h + ":" + std::to_string(port));
-  }
-  socklen_t len = sizeof addr;
-  ::getsockname(listen_fd_, reinterpret_cast<sockaddr*>(&addr), &len);
-  port_ = ntohs(addr.sin_port);
+  listen_fd_ = bindSocket(SOCK_STREAM, host, port, &port_);
   kick_fd_ = ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
   if (kick_fd_ < 0) {
     const int err = errno;
