@@ -48,11 +48,6 @@ def _text(reply):
     return bytes(reply).decode("ascii", errors="replace").rstrip("\0 ")
 
 
-def _driver_class():
-    """The Trellis model class when the package has it, else the bare link class."""
-    return getattr(pyorv, "Trellis", None) or pyorv.ETHDevice
-
-
 # ---- demo -----------------------------------------------------------------------------
 
 def _demo_digital(simulator):
@@ -60,9 +55,7 @@ def _demo_digital(simulator):
     wired to an input pin in the simulator reads back what was written."""
     import pyorv.sim as sim
 
-    model = getattr(pyorv, "KestrelDioX", None)
-    if model is None or not hasattr(model, "DO_writePins"):
-        return
+    model = pyorv.KestrelDioX
     sim_dev = simulator.add_device(sim.DeviceConfig(model="KestrelDioX", serial="SIMDIO01"))
     sim_dev.state_set("dio.loopback", [[0, 3, 2, 5]])  # DO port 0 pin 3 -> DI port 2 pin 5
     dev = model(verbose=False)
@@ -97,33 +90,20 @@ def cmd_demo(args):
         sim_dev = simulator.add_device(sim.DeviceConfig(model="Trellis", serial="SIM00001"))
         print(f"pyorv {pyorv.__version__} demo: a simulated {sim_dev.model} in this process, "
               f"on loopback TCP")
-        dev = _driver_class()()
+        dev = pyorv.Trellis()
         try:
             dev.connect(sim_dev.host, sim_dev.cmd_port)
             sim_dev.wait_for_host(sim.Channel.Cmd, 5.0)
 
-            if hasattr(dev, "Sys_getDriverInfo"):
-                # The system services of the model.
-                print(f"driver info            {dev.Sys_getDriverInfo()}")
-                info_async = asyncio.run(dev.Sys_getDriverInfo_async())
-                print(f"driver info, awaitable {info_async}")
-                print(f"serial number          {dev.Sys_getSerialNumber()}")
-                print(f"clock                  {dev.Sys_getRTC()}")
-                if hasattr(dev, "Net_getIPAddrAndSubmask"):
-                    print(f"address and mask       {dev.Net_getIPAddrAndSubmask()}")
-                    print(f"MAC address            {dev.Net_getMACAddr()}")
-                print(f"pin modes of port 0    {dev.Sys_getPinModeInPort(0)}")
-            else:
-                info = _text(dev._echoPacketWithRetry(pyorv.GET_DRIVER_INFO, [0], timeout=3))
-                print(f"driver info            {info.split('_')}")
-
-                async def awaitable_info():
-                    return await dev._echoPacketWithRetry_async(pyorv.GET_DRIVER_INFO, [0])
-
-                info_async = _text(asyncio.run(awaitable_info()))
-                print(f"driver info, awaitable {info_async.split('_')}")
-                serial = _text(dev._echoPacketWithRetry(GET_SERIAL_NUMBER, [], timeout=3)[:8])
-                print(f"serial number          {serial}")
+            # The system services of the model.
+            print(f"driver info            {dev.Sys_getDriverInfo()}")
+            info_async = asyncio.run(dev.Sys_getDriverInfo_async())
+            print(f"driver info, awaitable {info_async}")
+            print(f"serial number          {dev.Sys_getSerialNumber()}")
+            print(f"clock                  {dev.Sys_getRTC()}")
+            print(f"address and mask       {dev.Net_getIPAddrAndSubmask()}")
+            print(f"MAC address            {dev.Net_getMACAddr()}")
+            print(f"pin modes of port 0    {dev.Sys_getPinModeInPort(0)}")
 
             start = time.perf_counter()
             for _ in range(DEMO_COMMANDS):
@@ -220,14 +200,6 @@ def _collect(finder, timeout):
     return asyncio.run(window())
 
 
-def _usb_lister(finder):
-    for name in ("Bcst_enumerateUSBDevices", "_getAllUSBDevices"):
-        fn = getattr(finder, name, None)
-        if fn is not None:
-            return fn
-    return None
-
-
 def cmd_find(args):
     target = args.broadcast or os.environ.get("PYORV_BROADCAST_ADDR")
     if not target:
@@ -237,8 +209,7 @@ def cmd_find(args):
         host, port = _split_host_port(target, pyorv.UDP_SEND_PORT)
     except argparse.ArgumentTypeError as e:
         return _fail(f"broadcast target: {e}", 2)
-    finder_class = getattr(pyorv, "DeviceFinder", pyorv.BroadcastDevice)
-    finder = finder_class(verbose=False, broadcast_addr=f"{host}:{port}")
+    finder = pyorv.DeviceFinder(verbose=False, broadcast_addr=f"{host}:{port}")
     try:
         finder.connect(verbose=False)
     except (pyorv.Error, OSError) as e:
@@ -252,8 +223,7 @@ def cmd_find(args):
         return _fail(f"cannot receive answers on UDP port {pyorv.UDP_RECV_PORT}: {e}")
     try:
         answers = sorted(_collect(finder, args.timeout))
-        lister = _usb_lister(finder)
-        usb = lister() if lister is not None else []
+        usb = finder.Bcst_enumerateUSBDevices()
         finder.disconnect(verbose=False)
     except (pyorv.Error, OSError) as e:
         return _fail(str(e))
@@ -285,18 +255,17 @@ def cmd_info(args):
     print(f"{host}:{port} driver info {info.split('_')} serial number {serial}")
     # The model named by the driver text knows the clock and network services.
     model = getattr(pyorv, info.split("_")[0], None)
-    if model is None or not issubclass(model, pyorv.NetworkDevice) or \
-            not hasattr(model, "Sys_getRTC"):
+    if not (isinstance(model, type) and issubclass(model, pyorv.NetworkDevice)
+            and issubclass(model, pyorv.SystemModule)):
         return 0
     dev = model(verbose=False)
     try:
         dev.connect(host, port, verbose=False)
         print(f"model                  {dev._getDeviceName()}")
         print(f"clock                  {dev.Sys_getRTC()}")
-        if hasattr(dev, "Net_getIPAddrAndSubmask"):
-            print(f"address and mask       {dev.Net_getIPAddrAndSubmask()}")
-            print(f"gateway                {dev.Net_getGateway()}")
-            print(f"MAC address            {dev.Net_getMACAddr()}")
+        print(f"address and mask       {dev.Net_getIPAddrAndSubmask()}")
+        print(f"gateway                {dev.Net_getGateway()}")
+        print(f"MAC address            {dev.Net_getMACAddr()}")
         dev.disconnect(verbose=False)
     except (pyorv.Error, OSError) as e:
         return _fail(f"{host}:{port}: {e}")

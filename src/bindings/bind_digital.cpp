@@ -75,7 +75,7 @@ void bindDIO(py::module_& m) {
       "pin"_a);
 }
 
-void bindPWMAndCounter(py::module_& m) {
+void bindPWM(py::module_& m) {
   using namespace pybind11::literals;
   py::class_<PWMModule, std::shared_ptr<PWMModule>> pwm(m, "PWMModule");
   defTwin(pwm, "PWM_open", &PWMModule::PWM_open, "channel"_a);
@@ -87,7 +87,10 @@ void bindPWMAndCounter(py::module_& m) {
   pwm.def(
       "_checkPWMChannel",
       [](PWMModule&, const Value& ch) { return PWMModule::_checkPWMChannel(ch); }, "channel"_a);
+}
 
+void bindCounter(py::module_& m) {
+  using namespace pybind11::literals;
   py::class_<CounterModule, std::shared_ptr<CounterModule>> cnt(m, "CounterModule");
   defTwin(cnt, "Counter_open", &CounterModule::Counter_open, "channel"_a);
   defTwin(cnt, "Counter_start", &CounterModule::Counter_start, "channel"_a);
@@ -100,7 +103,7 @@ void bindPWMAndCounter(py::module_& m) {
       "channel"_a);
 }
 
-void bindRelayAndDPOT(py::module_& m) {
+void bindRelay(py::module_& m) {
   using namespace pybind11::literals;
   py::class_<RelayModule, std::shared_ptr<RelayModule>> relay(m, "RelayModule");
   defTwin(relay, "Relay_open", &RelayModule::Relay_open);
@@ -109,7 +112,10 @@ void bindRelayAndDPOT(py::module_& m) {
   relay.def(
       "_checkRelayindex",
       [](RelayModule&, const Value& i) { return RelayModule::_checkRelayindex(i); }, "index"_a);
+}
 
+void bindDPOT(py::module_& m) {
+  using namespace pybind11::literals;
   py::class_<DPOTModule, std::shared_ptr<DPOTModule>> dpot(m, "DPOTModule");
   defTwin(dpot, "DPOT_open", &DPOTModule::DPOT_open, "port"_a);
   defTwin(dpot, "DPOT_close", &DPOTModule::DPOT_close, "port"_a);
@@ -125,12 +131,13 @@ void bindRelayAndDPOT(py::module_& m) {
       "channel"_a);
 }
 
-}  // namespace
+const BindingRegistrar kDIO{{.name = "DIOModule", .module = "DIO", .bind = &bindDIO}};
+const BindingRegistrar kPWM{{.name = "PWMModule", .module = "PWM", .bind = &bindPWM}};
+const BindingRegistrar kCounter{
+    {.name = "CounterModule", .module = "Counter", .bind = &bindCounter}};
+const BindingRegistrar kRelay{{.name = "RelayModule", .module = "Relay", .bind = &bindRelay}};
+const BindingRegistrar kDPOT{{.name = "DPOTModule", .module = "DPOT", .bind = &bindDPOT}};
 
-void bindDigital(py::module_& m) {
-  bindDIO(m);
-  bindPWMAndCounter(m);
-  bindRelayAndDPOT(m);
-}
+}  // namespace
 
 }  // namespace orv::py_bind

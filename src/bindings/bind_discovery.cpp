@@ -48,8 +48,6 @@ void defBroadcastTwin(Cls& cls, const char* name, R (BroadcastModule::*op)(const
       extra...);
 }
 
-}  // namespace
-
 void bindDiscovery(py::module_& m) {
   using namespace pybind11::literals;
   py::class_<BroadcastModule, std::shared_ptr<BroadcastModule>> cls(m, "BroadcastModule");
@@ -65,5 +63,12 @@ void bindDiscovery(py::module_& m) {
 
   bindDeviceClass<DeviceFinder, BroadcastDevice, BroadcastModule>(m, "DeviceFinder");
 }
+
+// DeviceFinder names BroadcastDevice (the link classes, bound first) and
+// BroadcastModule, bound just above.
+const BindingRegistrar kDiscovery{
+    {.name = "DeviceFinder", .bind = &bindDiscovery, .order = kBindDevices}};
+
+}  // namespace
 
 }  // namespace orv::py_bind

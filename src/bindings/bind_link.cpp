@@ -371,7 +371,7 @@ void bindLink(py::module_& m) {
       .def_property_readonly("connect_status_data", &WifiDevice::connectStatusData)
       .def_property_readonly("client_data", &WifiDevice::clientData);
 
-  bindDeviceClass<BroadcastDevice, Device>(m, "BroadcastDevice", true)
+  bindDeviceClass<BroadcastDevice, Device>(m, "BroadcastDevice")
       .def("connect", &BroadcastDevice::connect, py::arg("verbose") = true,
            py::call_guard<py::gil_scoped_release>())
       .def("disconnect", &BroadcastDevice::disconnect, py::arg("verbose") = true,

@@ -25,25 +25,31 @@ py::dict digitalMap(const DigitalMap& dm) {
   return d;
 }
 
-// The model table's row as attributes of every device object.
+// The function maps of a row, each bound under its own name.
+#define ORV_PORT_MAPS(X) \
+  X(ai_dict)             \
+  X(ao_dict)             \
+  X(thermal_dict)        \
+  X(ahrs_dict)           \
+  X(uart_dict)           \
+  X(I2C_dict)            \
+  X(SPI_dict)            \
+  X(can_dict)            \
+  X(motion_dict)         \
+  X(mrdr_dict)
+
+// The model table's row as attributes of every device object; the bare
+// device classes have a bare row.
 void bindModelAttributes(py::class_<Device, std::shared_ptr<Device>>& dev) {
+  auto row = [](Device& d) -> const ModelInfo& { return modelInfo(d.className()); };
 #define ORV_PORT_MAP(name) \
-  dev.def_property_readonly(#name, [](Device& d) { return portMap(d.modelInfo().name); })
-  ORV_PORT_MAP(ai_dict);
-  ORV_PORT_MAP(ao_dict);
-  ORV_PORT_MAP(thermal_dict);
-  ORV_PORT_MAP(ahrs_dict);
-  ORV_PORT_MAP(uart_dict);
-  ORV_PORT_MAP(I2C_dict);
-  ORV_PORT_MAP(SPI_dict);
-  ORV_PORT_MAP(can_dict);
-  ORV_PORT_MAP(motion_dict);
-  ORV_PORT_MAP(mrdr_dict);
+  dev.def_property_readonly(#name, [row](Device& d) { return portMap(row(d).name); });
+  ORV_PORT_MAPS(ORV_PORT_MAP)
 #undef ORV_PORT_MAP
-  dev.def_property_readonly("di_dict", [](Device& d) { return digitalMap(d.modelInfo().di_dict); });
-  dev.def_property_readonly("do_dict", [](Device& d) { return digitalMap(d.modelInfo().do_dict); });
+  dev.def_property_readonly("di_dict", [row](Device& d) { return digitalMap(row(d).di_dict); });
+  dev.def_property_readonly("do_dict", [row](Device& d) { return digitalMap(row(d).do_dict); });
   dev.def_property_readonly("dio_num_pins_per_port",
-                            [](Device& d) { return d.modelInfo().dio_num_pins_per_port; });
+                            [row](Device& d) { return row(d).dio_num_pins_per_port; });
 }
 
 const char* deviceKindName(DeviceKind k) {
@@ -68,17 +74,8 @@ py::dict rowDict(const ModelInfo& r) {
   d["device_class"] = deviceClassName(r.device);
   d["data_logger"] = r.data_logger;
   d["modules"] = py::cast(r.modules);
-#define ORV_PORT_MAP(name) d[#name] = portMap(r.name)
-  ORV_PORT_MAP(ai_dict);
-  ORV_PORT_MAP(ao_dict);
-  ORV_PORT_MAP(thermal_dict);
-  ORV_PORT_MAP(ahrs_dict);
-  ORV_PORT_MAP(uart_dict);
-  ORV_PORT_MAP(I2C_dict);
-  ORV_PORT_MAP(SPI_dict);
-  ORV_PORT_MAP(can_dict);
-  ORV_PORT_MAP(motion_dict);
-  ORV_PORT_MAP(mrdr_dict);
+#define ORV_PORT_MAP(name) d[#name] = portMap(r.name);
+  ORV_PORT_MAPS(ORV_PORT_MAP)
 #undef ORV_PORT_MAP
   d["di_dict"] = digitalMap(r.di_dict);
   d["do_dict"] = digitalMap(r.do_dict);
@@ -114,13 +111,62 @@ void bindCatalogue(py::module_& m) {
   });
 }
 
+// A model class: its device class and its module classes as bases.
+template <class Model, class... Modules>
+void bindModel(py::module_& m, const char* name, TypeList<Modules...>) {
+  bindDeviceClass<Model, typename Model::DeviceType, Modules...>(m, name);
+}
+
+// The Python classes a row asks for as bases: its device class, then the
+// class of each of its modules that is bound, in the row's order.
+py::tuple expectedBases(py::module_& m, const ModelInfo& row) {
+  py::list bases;
+  bases.append(m.attr(deviceClassName(row.device)));
+  for (const std::string& module : row.modules)
+    for (const Binding& b : registeredBindings())
+      if (b.module && module == b.module) bases.append(m.attr(b.name));
+  return py::tuple(bases);
+}
+
+std::string classNames(const py::tuple& classes) {
+  std::string out = "(";
+  for (size_t i = 0; i < classes.size(); ++i) {
+    if (i) out += ", ";
+    out += py::str(classes[i].attr("__name__")).cast<std::string>();
+  }
+  return out + ")";
+}
+
+// Each model class has the bases its row of the model table asks for, in
+// that order, and each bound module is a module of the table: the import
+// fails with a message that names the difference otherwise.
+void checkModelClasses(py::module_& m) {
+  for (const Binding& b : registeredBindings()) {
+    if (!b.module) continue;
+    bool used = false;
+    for (const ModelInfo& row : modelTable()) used = used || row.has(b.module);
+    if (!used)
+      throw py::import_error(std::string("pyorv: the binding of ") + b.name + " names module \"" +
+                             b.module + "\", which no model of models.def has");
+  }
+  for (const ModelInfo& row : modelTable()) {
+    if (row.device == DeviceKind::None) continue;
+    const py::tuple want = expectedBases(m, row);
+    const py::tuple have = m.attr(row.class_name.c_str()).attr("__bases__");
+    if (!have.equal(want))
+      throw py::import_error("pyorv: model class " + row.class_name + " has the bases " +
+                             classNames(have) + ", but its line in models.def asks for " +
+                             classNames(want));
+  }
+}
+
 }  // namespace
 
 void bindModels(py::module_& m) {
   auto dev = py::reinterpret_borrow<py::class_<Device, std::shared_ptr<Device>>>(m.attr("Device"));
   bindModelAttributes(dev);
 
-#define ORV_MODEL(Name, DeviceClass, ...) bindDeviceClass<Name, DeviceClass, __VA_ARGS__>(m, #Name);
+#define ORV_MODEL(Name, ...) bindModel<Name>(m, #Name, Name::ModuleTypes{});
 #include "models/models.def"
 #undef ORV_MODEL
 
@@ -132,6 +178,7 @@ void bindModels(py::module_& m) {
       py::reinterpret_borrow<py::object>((PyObject*)&PyType_Type)("TrellisLite", py::tuple(), ns);
 
   bindCatalogue(m);
+  checkModelClasses(m);
 }
 
 }  // namespace orv::py_bind

@@ -8,6 +8,8 @@
 
 namespace orv::py_bind {
 
+namespace {
+
 void bindSystemAnalog(py::module_& m) {
   using S = SystemAnalogModule;
   py::class_<S, std::shared_ptr<S>> cls(m, "SystemAnalogModule");
@@ -15,7 +17,7 @@ void bindSystemAnalog(py::module_& m) {
           TwinOptions{.async_name = "Wifi_readAccleration_async"});
   defTwin(cls, "Wifi_readBattery", &S::Wifi_readBattery);
   defTwin(cls, "Wifi_readThermo", &S::Wifi_readThermo);
-  defTwin(cls, "_Wifi_resetAIBuffer", &S::_Wifi_resetAIBuffer);
+  defTwin(cls, "_Wifi_resetAIBuffer", &S::Wifi_resetAIBuffer_);
   defAttr(cls, "battery", &S::battery);
   defAttr(cls, "thermo", &S::thermo);
 }
@@ -62,5 +64,13 @@ void bindWifi(py::module_& m) {
   defAttr(cls, "bandwidth", &S::bandwidth);
   defAttr(cls, "rssi", &S::rssi);
 }
+
+const BindingRegistrar kSystemAnalog{
+    {.name = "SystemAnalogModule", .module = "SystemAnalog", .bind = &bindSystemAnalog}};
+const BindingRegistrar kNetwork{
+    {.name = "NetworkModule", .module = "Network", .bind = &bindNetwork}};
+const BindingRegistrar kWifi{{.name = "WifiModule", .module = "Wifi", .bind = &bindWifi}};
+
+}  // namespace
 
 }  // namespace orv::py_bind

@@ -5,6 +5,8 @@
 
 namespace orv::py_bind {
 
+namespace {
+
 void bindSystem(py::module_& m) {
   using namespace pybind11::literals;
   using S = SystemModule;
@@ -24,7 +26,7 @@ void bindSystem(py::module_& m) {
   defTwin(cls, "Sys_setMotionMode", &S::Sys_setMotionMode, "slot"_a);
   defTwin(cls, "Sys_setAIOMode", &S::Sys_setAIOMode, "slot"_a);
   defTwin(cls, "Sys_setSwitchMode", &S::Sys_setSwitchMode, "slot"_a);
-  defTwin(cls, "_Sys_setSlotMode", &S::_Sys_setSlotMode, "slot"_a, "mode"_a);
+  defTwin(cls, "_Sys_setSlotMode", &S::Sys_setSlotMode_, "slot"_a, "mode"_a);
   defTwin(cls, "Sys_reboot", &S::Sys_reboot);
   defTwin(cls, "Sys_rebootOnBootloader", &S::Sys_rebootOnBootloader);
   defTwin(cls, "_getEEPROMPage", &S::_getEEPROMPage, "page_number"_a);
@@ -44,5 +46,9 @@ void bindSystem(py::module_& m) {
   defAttr(cls, "pin_mode_list", &S::pin_mode_list);
   defAttr(cls, "thread_info", &S::thread_info);
 }
+
+const BindingRegistrar kSystem{{.name = "SystemModule", .module = "System", .bind = &bindSystem}};
+
+}  // namespace
 
 }  // namespace orv::py_bind

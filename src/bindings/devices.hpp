@@ -32,12 +32,11 @@ std::shared_ptr<T> makeDevice(bool verbose, const char* class_name) {
   return p;
 }
 
-// A device class whose constructor is T(verbose=True).  With `broadcast` the
+// A device class whose constructor is T(verbose=True).  A BroadcastDevice's
 // constructor also takes broadcast_addr ("host" or "host:port") for the
 // discovery target.
 template <class T, class... Bases>
-py::class_<T, Bases..., std::shared_ptr<T>> bindDeviceClass(py::module_& m, const char* name,
-                                                            bool broadcast = false) {
+py::class_<T, Bases..., std::shared_ptr<T>> bindDeviceClass(py::module_& m, const char* name) {
   py::class_<T, Bases..., std::shared_ptr<T>> cls(m, name);
   std::string cname = name;
   if constexpr (std::is_base_of_v<BroadcastDevice, T>) {
@@ -55,7 +54,6 @@ py::class_<T, Bases..., std::shared_ptr<T>> bindDeviceClass(py::module_& m, cons
             }),
             py::arg("verbose") = true, py::arg("broadcast_addr") = py::none());
   } else {
-    (void)broadcast;
     cls.def(py::init([cname](bool verbose) { return makeDevice<T>(verbose, cname.c_str()); }),
             py::arg("verbose") = true);
   }

@@ -28,7 +28,9 @@ void errorInit(py::object self, py::object code, py::object msg, py::args args, 
 }
 
 std::string errorStr(py::object self) {
-  return py::str("Error {:d}: {}").attr("format")(self.attr("code"), self.attr("msg")).cast<std::string>();
+  return py::str("Error {:d}: {}")
+      .attr("format")(self.attr("code"), self.attr("msg"))
+      .cast<std::string>();
 }
 
 // ORVWarning(code, msg, *args, **kwargs): reports itself unless silent.
@@ -49,13 +51,16 @@ void warningInit(py::object self, py::object code, py::object msg, py::args args
 }
 
 std::string warningStr(py::object self) {
-  return py::str("Warning {:d}: {}").attr("format")(self.attr("code"), self.attr("msg")).cast<std::string>();
+  return py::str("Warning {:d}: {}")
+      .attr("format")(self.attr("code"), self.attr("msg"))
+      .cast<std::string>();
 }
 
 py::object makeClass(const char* name, py::object base, py::module_& m) {
   py::dict ns;
   ns["__module__"] = m.attr("__name__");
-  return py::reinterpret_borrow<py::object>((PyObject*)&PyType_Type)(name, py::make_tuple(base), ns);
+  return py::reinterpret_borrow<py::object>((PyObject*)&PyType_Type)(name, py::make_tuple(base),
+                                                                     ns);
 }
 
 }  // namespace
@@ -67,14 +72,14 @@ void bindErrors(py::module_& m) {
   py::object uw = py::module_::import("builtins").attr("UserWarning");
 
   g_error_base = makeClass("Error", exc, m);
-  g_error_base.attr("__init__") = py::cpp_function(errorInit, py::is_method(g_error_base),
-                                                   py::arg("code"), py::arg("msg"));
+  g_error_base.attr("__init__") =
+      py::cpp_function(errorInit, py::is_method(g_error_base), py::arg("code"), py::arg("msg"));
   g_error_base.attr("__str__") = py::cpp_function(errorStr, py::is_method(g_error_base));
   m.attr("Error") = g_error_base;
 
   g_warning_base = makeClass("ORVWarning", uw, m);
-  g_warning_base.attr("__init__") = py::cpp_function(warningInit, py::is_method(g_warning_base),
-                                                     py::arg("code"), py::arg("msg"));
+  g_warning_base.attr("__init__") =
+      py::cpp_function(warningInit, py::is_method(g_warning_base), py::arg("code"), py::arg("msg"));
   g_warning_base.attr("__str__") = py::cpp_function(warningStr, py::is_method(g_warning_base));
   m.attr("ORVWarning") = g_warning_base;
 

@@ -18,7 +18,7 @@
 #include "bindings/twin.hpp"
 #include "bindings/value_caster.hpp"
 #include "link/call.hpp"
-#include "link/module.hpp"
+#include "models/module.hpp"
 
 namespace orv::py_bind {
 

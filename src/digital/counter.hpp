@@ -5,8 +5,8 @@
 #include <cstdint>
 
 #include "link/call.hpp"
-#include "link/module.hpp"
 #include "link/value.hpp"
+#include "models/module.hpp"
 
 namespace orv {
 
@@ -28,5 +28,6 @@ class CounterModule : public ModuleBase {
   // families' errors are crossed on purpose.
   static bool _checkCounterChannel(const Value& channel);
 };
+ORV_MODULE_CLASS("Counter", CounterModule);
 
 }  // namespace orv

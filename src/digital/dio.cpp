@@ -55,11 +55,7 @@ const char* kIdle = "Idle";
 DigitalMap DIOModule::DO_getPinMap() { return model().do_dict; }
 DigitalMap DIOModule::DI_getPinMap() { return model().di_dict; }
 
-bool DIOModule::fixedDirection() {
-  const std::string& name = device().className();
-  return name == "KestrelRelay" || name == "KestrelDio" || name == "PloverSink" ||
-         name == "Trellis";
-}
+bool DIOModule::fixedDirection() const { return model().dio_fixed_direction; }
 
 // ---------------------------------------------------------------------------
 // Checks and pin forms.
@@ -113,7 +109,7 @@ DioWords DIOModule::wordsReply(const Call& c, int cmd, const Bytes& data_out) {
 // Sys_getPinModeInPort of the model: every model with digital ports has the
 // system module, and its side-effect attributes follow the read.
 std::vector<std::string> DIOModule::pinModes(const Call& c, const Value& port) {
-  auto* sys = dynamic_cast<SystemModule*>(this);
+  auto* sys = sibling<SystemModule>();
   if (!sys) raise(ErrorId::APINotSupportError);
   return sys->Sys_getPinModeInPort(c, port);
 }

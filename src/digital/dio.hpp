@@ -14,9 +14,9 @@
 #include <vector>
 
 #include "link/call.hpp"
-#include "link/module.hpp"
 #include "link/value.hpp"
 #include "models/model_info.hpp"
+#include "models/module.hpp"
 
 namespace orv {
 
@@ -94,11 +94,12 @@ class DIOModule : public ModuleBase {
  private:
   // KestrelRelay, KestrelDio, PloverSink and Trellis: pins wired as inputs or
   // outputs, nothing to open or close.
-  bool fixedDirection();
+  bool fixedDirection() const;
   // The firmware's name of the mode of each pin of the port.
   std::vector<std::string> pinModes(const Call& c, const Value& port);
   PinStates stateReply(const Call& c, int cmd, const Bytes& data_out);
   DioWords wordsReply(const Call& c, int cmd, const Bytes& data_out);
 };
+ORV_MODULE_CLASS("DIO", DIOModule);
 
 }  // namespace orv

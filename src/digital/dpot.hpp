@@ -5,8 +5,8 @@
 #include <cstdint>
 
 #include "link/call.hpp"
-#include "link/module.hpp"
 #include "link/value.hpp"
+#include "models/module.hpp"
 
 namespace orv {
 
@@ -27,5 +27,6 @@ class DPOTModule : public ModuleBase {
   static bool _checkDPOTPort(const Value& port);
   static bool _checkDPOTChannelAmount(const Value& channel);
 };
+ORV_MODULE_CLASS("DPOT", DPOTModule);
 
 }  // namespace orv

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "link/call.hpp"
-#include "link/module.hpp"
 #include "link/value.hpp"
+#include "models/module.hpp"
 
 namespace orv {
 
@@ -29,5 +29,6 @@ class PWMModule : public ModuleBase {
   // counter's error: the two families' errors are crossed on purpose.
   static bool _checkPWMChannel(const Value& channel);
 };
+ORV_MODULE_CLASS("PWM", PWMModule);
 
 }  // namespace orv

@@ -12,11 +12,9 @@ bool RelayModule::_checkRelayindex(const Value& index) {
   return true;
 }
 
-int RelayModule::Relay_open(const Call&) { return device().className() == "KestrelRelay" ? 0 : -1; }
+int RelayModule::Relay_open(const Call&) { return model().has("Relay") ? 0 : -1; }
 
-int RelayModule::Relay_close(const Call&) {
-  return device().className() == "KestrelRelay" ? 0 : -1;
-}
+int RelayModule::Relay_close(const Call&) { return model().has("Relay") ? 0 : -1; }
 
 // Counters from byte 2, four bytes each, high byte first; a partial group at
 // the end is dropped.  No status.

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "link/call.hpp"
-#include "link/module.hpp"
 #include "link/value.hpp"
+#include "models/module.hpp"
 
 namespace orv {
 
@@ -24,5 +24,6 @@ class RelayModule : public ModuleBase {
 
   static bool _checkRelayindex(const Value& index);
 };
+ORV_MODULE_CLASS("Relay", RelayModule);
 
 }  // namespace orv

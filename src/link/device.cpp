@@ -64,12 +64,20 @@ void Link::setClient(std::shared_ptr<Client> c) {
 
 // ---- Device: pools and routing -------------------------------------------------
 
-Device::Device(std::string class_name)
-    : class_name_(std::move(class_name)), model_(&orv::modelInfo(class_name_)) {}
+Device::Device(std::string class_name) : class_name_(std::move(class_name)) {}
 
 Device::~Device() = default;
 
-std::string Device::deviceName() const { return labelFor(class_name_); }
+namespace {
+std::atomic<DeviceNaming> g_naming{nullptr};
+}  // namespace
+
+void setDeviceNaming(DeviceNaming naming) { g_naming.store(naming); }
+
+std::string Device::deviceName() const {
+  const DeviceNaming naming = g_naming.load();
+  return naming ? naming(class_name_) : class_name_;
+}
 
 CmdType Device::checkCommandType(int cmd, std::span<const uint8_t> data) {
   return orv::checkCommandType(cmd, data);

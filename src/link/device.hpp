@@ -27,7 +27,6 @@
 #include "link/framing.hpp"
 #include "link/pools.hpp"
 #include "link/transport.hpp"
-#include "models/model_info.hpp"
 
 namespace orv {
 
@@ -85,8 +84,6 @@ class Device {
 
   const std::string& className() const { return class_name_; }
   std::string deviceName() const;  // _getDeviceName
-  // The model's row of the model table (a bare row for the device classes).
-  const ModelInfo& modelInfo() const { return *model_; }
   bool killed() const { return killed_.load(); }
 
   // Pools.
@@ -155,7 +152,6 @@ class Device {
   void throwIfClosed() const;
 
   std::string class_name_;
-  const ModelInfo* model_;
   std::atomic<bool> killed_{false};
   std::vector<Link*> links_;
   EchoPool echo_;
@@ -252,9 +248,10 @@ class BroadcastDevice : public Device {
   std::shared_ptr<UDPClient> udp_client_;
 };
 
-// LABEL_DICT lookup of a class name; the class name itself when unknown.
-std::string labelFor(const std::string& class_name);
-// LABEL_DICT as a whole.
-std::map<std::string, std::string> labelDict();
+// How a class name reads in messages ("Opened handle (Kestrel-Dio)"): the
+// model table installs its label lookup when the program starts; the class
+// name itself until then.
+using DeviceNaming = std::string (*)(const std::string& class_name);
+void setDeviceNaming(DeviceNaming naming);
 
 }  // namespace orv

@@ -62,6 +62,12 @@ struct ModelInfo {
   // Module parameters that are plain numbers or texts, by name.
   std::map<std::string, double, std::less<>> params;
 
+  // The hardware fixes the direction of every digital pin: direction changes
+  // of DIOModule do nothing and return 0.
+  bool dio_fixed_direction = false;
+  // The year the real-time clock counts from.
+  int rtc_base_year = 1900;
+
   bool has(std::string_view module) const {
     for (const auto& m : modules)
       if (m == module) return true;
@@ -82,6 +88,9 @@ const ModelInfo& modelInfo(std::string_view class_name);
 const std::vector<ModelInfo>& modelTable();
 // True for a class name of the table.
 bool isModel(std::string_view class_name);
+
+// LABEL_DICT lookup of a class name; the class name itself when unknown.
+std::string labelFor(const std::string& class_name);
 
 // LABEL_DICT in its order: the groups, the utility handles, then every model.
 const LabelEntries& labelEntries();

@@ -1,11 +1,13 @@
 // The model table: every product of the family, its device class, label,
 // modules, port maps and parameters; and the catalogue tables built from it
 // (LABEL_DICT, HANDLE_DICT, PRODUCT_LIST, HANDLE_LIST).
+#include <algorithm>
 #include <map>
 #include <mutex>
+#include <stdexcept>
 #include <string>
+#include <string_view>
 
-#include "link/device.hpp"
 #include "models/model_info.hpp"
 
 namespace orv {
@@ -53,7 +55,52 @@ constexpr AiParams kAiTrellis{
 constexpr AoParams kAo10V{.volt_min = -10, .volt_max = 10, .channel = 8, .rate = 15000};
 constexpr AoParams kAoPlover{.volt_min = 0, .volt_max = 5, .channel = 8, .rate = 16000};
 
-using enum DeviceKind;
+// The device class and the module list of each model, from models/models.def.
+struct ModelDef {
+  const char* class_name;
+  const char* device_class;
+  const char* modules;  // "System, Network, DIO"
+};
+constexpr ModelDef kModelDefs[] = {
+#define ORV_MODEL(Name, DeviceClass, ...) {#Name, #DeviceClass, #__VA_ARGS__},
+#include "models/models.def"
+#undef ORV_MODEL
+};
+
+std::vector<std::string> splitNames(std::string_view list) {
+  std::vector<std::string> out;
+  while (!list.empty()) {
+    const size_t comma = std::min(list.find(','), list.size());
+    std::string_view name = list.substr(0, comma);
+    while (!name.empty() && name.front() == ' ') name.remove_prefix(1);
+    while (!name.empty() && name.back() == ' ') name.remove_suffix(1);
+    out.emplace_back(name);
+    list.remove_prefix(std::min(comma + 1, list.size()));
+  }
+  return out;
+}
+
+DeviceKind deviceKindOf(std::string_view device_class) {
+  for (DeviceKind k : {DeviceKind::Usb, DeviceKind::Ethernet, DeviceKind::Wifi})
+    if (device_class == deviceClassName(k)) return k;
+  throw std::logic_error("models.def: unknown device class " + std::string(device_class));
+}
+
+// Gives each row its device class and modules; every row of a device class
+// has its line in models.def and every line its row.
+void applyModelDefs(std::vector<ModelInfo>& table) {
+  for (const ModelDef& def : kModelDefs) {
+    auto row = std::find_if(table.begin(), table.end(),
+                            [&](const ModelInfo& r) { return r.class_name == def.class_name; });
+    if (row == table.end())
+      throw std::logic_error(std::string("models.def: no row for ") + def.class_name);
+    row->device = deviceKindOf(def.device_class);
+    row->modules = splitNames(def.modules);
+  }
+  for (const ModelInfo& row : table)
+    if (row.device == DeviceKind::None && row.class_name != "TrellisLite")
+      throw std::logic_error("models.def: no line for " + row.class_name);
+}
 
 std::vector<ModelInfo> makeTable() {
   std::vector<ModelInfo> t;
@@ -62,33 +109,28 @@ std::vector<ModelInfo> makeTable() {
   // ---- Wi-Fi ----
   t.push_back({.class_name = "HeronAinImu",
                .label = "Heron-Ain-Imu",
-               .device = Wifi,
                .data_logger = true,
-               .modules = {"System", "SystemAnalog", "Network", "Wifi", "AI", "AHRS"},
                .ai_dict = heron_ai,
                .ahrs_dict = {{0, {{1, 5}}}},
-               .ai = kAiHeron});
+               .ai = kAiHeron,
+               .rtc_base_year = 2000});
   t.push_back({.class_name = "HeronAin",
                .label = "Heron-Ain",
-               .device = Wifi,
                .data_logger = true,
-               .modules = {"System", "SystemAnalog", "Network", "Wifi", "AI"},
                .ai_dict = heron_ai,
-               .ai = kAiHeron});
+               .ai = kAiHeron,
+               .rtc_base_year = 2000});
   t.push_back({.class_name = "HeronAinPlus",
                .label = "Heron-Ain-Plus",
-               .device = Wifi,
                .data_logger = true,
-               .modules = {"System", "SystemAnalog", "Network", "Wifi", "AI"},
                .ai_dict = heron_ai,
-               .ai = kAiHeronPlus});
+               .ai = kAiHeronPlus,
+               .rtc_base_year = 2000});
 
   // ---- Ethernet ----
   t.push_back({.class_name = "Trellis",
                .label = "Trellis",
-               .device = Ethernet,
                .data_logger = true,
-               .modules = {"System", "Network", "AI", "AO", "DIO", "MCX514"},
                .ai_dict = trellisSlots(),
                .ao_dict = trellisSlots(),
                .motion_dict = trellisSlots(),
@@ -96,76 +138,51 @@ std::vector<ModelInfo> makeTable() {
                .do_dict = trellisDigital(),
                .dio_num_pins_per_port = 12,
                .ai = kAiTrellis,
-               .ao = kAo10V});
+               .ao = kAo10V,
+               .dio_fixed_direction = true});
   // An empty class: no device, no module.
-  t.push_back({.class_name = "TrellisLite", .label = "Trellis-Lite", .device = None});
+  t.push_back({.class_name = "TrellisLite", .label = "Trellis-Lite"});
   t.push_back({.class_name = "MerlinDrive",
                .label = "Merlin-Drive",
-               .device = Ethernet,
                .data_logger = false,
-               .modules = {"System", "Network", "TMC5240"},
                .mrdr_dict = {{0, {{1, 5}}}}});
   t.push_back({.class_name = "MerlinAxis",
                .label = "Merlin-Axis",
-               .device = Ethernet,
                .data_logger = true,
-               .modules = {"MCX514", "System", "Network"},
                .motion_dict = {{0, {{1, 5}}}}});
   t.push_back({.class_name = "KestrelAin",
                .label = "Kestrel-Ain",
-               .device = Ethernet,
                .data_logger = true,
-               .modules = {"System", "Network", "AI"},
                .ai_dict = {{0, {{1, 11}}}},
                .ai = kAiKestrel});
   t.push_back({.class_name = "KestrelDio",
                .label = "Kestrel-Dio",
-               .device = Ethernet,
                .data_logger = true,
-               .modules = {"System", "Network", "DIO", "PWM"},
                .di_dict = {{1, pins(0, 7)}},
-               .do_dict = {{0, pins(0, 5)}}});
+               .do_dict = {{0, pins(0, 5)}},
+               .dio_fixed_direction = true});
   t.push_back({.class_name = "KestrelDioX",
                .label = "Kestrel-Dio_X",
-               .device = Ethernet,
                .data_logger = true,
-               .modules = {"System", "Network", "DIO"},
                .di_dict = {{2, pins(0, 7)}, {3, pins(0, 7)}},
                .do_dict = {{0, pins(0, 7)}, {1, pins(0, 7)}}});
-  t.push_back({.class_name = "KestrelCin",
-               .label = "Kestrel-Cin",
-               .device = Ethernet,
-               .data_logger = true,
-               .modules = {"System", "Network", "AI24Bit"}});
-  t.push_back({.class_name = "KestrelCvin",
-               .label = "Kestrel-Cvin",
-               .device = Ethernet,
-               .data_logger = true,
-               .modules = {"System", "Network", "AI24Bit"}});
+  t.push_back({.class_name = "KestrelCin", .label = "Kestrel-Cin", .data_logger = true});
+  t.push_back({.class_name = "KestrelCvin", .label = "Kestrel-Cvin", .data_logger = true});
   t.push_back({.class_name = "KestrelRelay",
                .label = "Kestrel-Relay",
-               .device = Ethernet,
                .data_logger = true,
-               .modules = {"System", "Network", "DIO", "Relay"},
                .di_dict = {{1, pins(0, 5)}},
-               .do_dict = {{0, pins(0, 5)}}});
+               .do_dict = {{0, pins(0, 5)}},
+               .dio_fixed_direction = true});
   t.push_back({.class_name = "KestrelAout",
                .label = "Kestrel-Aout",
-               .device = Ethernet,
                .data_logger = true,
-               .modules = {"System", "Network", "AO"},
                .ao_dict = {{0, {{3, 11}}}},
                .ao = kAo10V});
-  t.push_back({.class_name = "KestrelRes",
-               .label = "Kestrel-Res",
-               .device = Ethernet,
-               .data_logger = true,
-               .modules = {"System", "Network", "DPOT"}});
+  t.push_back({.class_name = "KestrelRes", .label = "Kestrel-Res", .data_logger = true});
   t.push_back({.class_name = "KestrelTherm",
                .label = "Kestrel-Therm",
-               .device = Ethernet,
                .data_logger = true,
-               .modules = {"System", "Network", "Thermocouple"},
                .thermal_dict = {{1, {{3, 11}}}}});
 
   // ---- USB ----
@@ -177,9 +194,7 @@ std::vector<ModelInfo> makeTable() {
 
   t.push_back({.class_name = "PloverDio",
                .label = "Plover-Dio",
-               .device = Usb,
                .data_logger = true,
-               .modules = {"System", "UART", "I2C", "SPI", "DIO", "Counter", "PWM"},
                .uart_dict = kPloverUart,
                .I2C_dict = kPloverI2C,
                .SPI_dict = {{1, {{2, 1}, {2, 2}, {2, 3}}}, {2, {{3, 3}, {3, 4}, {3, 5}}}},
@@ -187,9 +202,7 @@ std::vector<ModelInfo> makeTable() {
                .do_dict = dio_dio});
   t.push_back({.class_name = "PloverAin",
                .label = "Plover-Ain",
-               .device = Usb,
                .data_logger = true,
-               .modules = {"System", "UART", "I2C", "SPI", "AI", "DIO", "Counter", "PWM"},
                .ai_dict = {{0, {{1, 5}}}},
                .uart_dict = kPloverUart,
                .I2C_dict = kPloverI2C,
@@ -199,9 +212,7 @@ std::vector<ModelInfo> makeTable() {
                .ai = kAiPlover});
   t.push_back({.class_name = "PloverTc",
                .label = "Plover-Tc",
-               .device = Usb,
                .data_logger = true,
-               .modules = {"System", "UART", "I2C", "SPI", "Thermocouple", "DIO", "Counter", "PWM"},
                .thermal_dict = kPloverThermal,
                .uart_dict = kPloverUart,
                .I2C_dict = kPloverI2C,
@@ -210,9 +221,7 @@ std::vector<ModelInfo> makeTable() {
                .do_dict = tc_rtd_dio});
   t.push_back({.class_name = "PloverCan",
                .label = "Plover-Can",
-               .device = Usb,
                .data_logger = true,
-               .modules = {"System", "UART", "I2C", "SPI", "CAN", "DIO", "Counter", "PWM"},
                .uart_dict = kPloverUart,
                .I2C_dict = kPloverI2C,
                .SPI_dict = kPloverSpiPort2,
@@ -221,16 +230,13 @@ std::vector<ModelInfo> makeTable() {
                .do_dict = ain_can_dio});
   t.push_back({.class_name = "PloverSink",
                .label = "Plover-Sink",
-               .device = Usb,
                .data_logger = true,
-               .modules = {"System", "DIO", "Counter", "PWM"},
                .di_dict = {{0, pins(0, 7)}, {1, pins(0, 5)}},
-               .do_dict = {{2, pins(0, 7)}, {3, pins(0, 3)}}});
+               .do_dict = {{2, pins(0, 7)}, {3, pins(0, 3)}},
+               .dio_fixed_direction = true});
   t.push_back({.class_name = "PloverAio",
                .label = "Plover-Aio",
-               .device = Usb,
                .data_logger = true,
-               .modules = {"System", "UART", "I2C", "AI", "AO", "DIO", "Counter", "PWM"},
                .ai_dict = {{0, {{1, 5}}}},
                .ao_dict = {{0, {{1, 4}}}},
                .uart_dict = kPloverUart,
@@ -239,18 +245,16 @@ std::vector<ModelInfo> makeTable() {
                .do_dict = aio_dio,
                .ai = kAiPlover,
                .ao = kAoPlover});
-  t.push_back(
-      {.class_name = "PloverRtd",
-       .label = "Plover-Rtd",
-       .device = Usb,
-       .data_logger = true,
-       .modules = {"System", "UART", "I2C", "SPI", "ThermalResistance", "DIO", "Counter", "PWM"},
-       .thermal_dict = kPloverThermal,
-       .uart_dict = kPloverUart,
-       .I2C_dict = kPloverI2C,
-       .SPI_dict = kPloverSpiPort2,
-       .di_dict = tc_rtd_dio,
-       .do_dict = tc_rtd_dio});
+  t.push_back({.class_name = "PloverRtd",
+               .label = "Plover-Rtd",
+               .data_logger = true,
+               .thermal_dict = kPloverThermal,
+               .uart_dict = kPloverUart,
+               .I2C_dict = kPloverI2C,
+               .SPI_dict = kPloverSpiPort2,
+               .di_dict = tc_rtd_dio,
+               .do_dict = tc_rtd_dio});
+  applyModelDefs(t);
   return t;
 }
 
@@ -351,11 +355,6 @@ std::vector<std::string> handleList() {
   for (const auto& [group, names] : handleGroups())
     out.insert(out.end(), names.begin(), names.end());
   return out;
-}
-
-std::map<std::string, std::string> labelDict() {
-  const auto& e = labelEntries();
-  return {e.begin(), e.end()};
 }
 
 // _getDeviceName: LABEL_DICT of the class name; the class name itself for the

@@ -12,8 +12,8 @@
 
 #include "link/call.hpp"
 #include "link/device.hpp"
-#include "link/module.hpp"
 #include "link/value.hpp"
+#include "models/module.hpp"
 
 namespace orv {
 
@@ -42,6 +42,11 @@ class DeviceFinder : public BroadcastDevice, public BroadcastModule {
   explicit DeviceFinder(bool verbose = true, std::string class_name = "DeviceFinder")
       : BroadcastDevice(verbose, std::move(class_name)) {}
   Device& device() override { return *this; }
+  // A bare row: the finder has no ports.
+  const ModelInfo& model() const override { return modelInfo("DeviceFinder"); }
+
+ protected:
+  void* siblingOf(const std::type_info&) override { return nullptr; }
 };
 
 }  // namespace orv

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "link/call.hpp"
-#include "link/module.hpp"
 #include "link/value.hpp"
+#include "models/module.hpp"
 
 namespace orv {
 
@@ -46,5 +46,6 @@ class NetworkModule : public ModuleBase {
   Attr<std::string> subnet_mask;
   Attr<std::string> mac_addr;
 };
+ORV_MODULE_CLASS("Network", NetworkModule);
 
 }  // namespace orv

@@ -116,7 +116,7 @@ std::string SystemModule::Sys_getRTC(const Call& c) {
   const Bytes data_in = c.exchange(GET_DATE_TIME, {0});
   needBytes(data_in, 6, GET_DATE_TIME);
   // Heron models count the year from 2000, the others from 1900.
-  const int base = device().deviceName().find("Heron") != std::string::npos ? 2000 : 1900;
+  const int base = model().rtc_base_year;
   char text[64];
   std::snprintf(text, sizeof text, "%04d-%02d-%02d, %02d:%02d:%02d", base + data_in[0], data_in[1],
                 data_in[2], data_in[3], data_in[4], data_in[5]);
@@ -188,7 +188,7 @@ std::vector<std::string> SystemModule::Sys_getMode(const Call& c, const Value& s
   return mode_list;
 }
 
-int SystemModule::_Sys_setSlotMode(const Call& c, const Value& slot, const Value& mode) {
+int SystemModule::Sys_setSlotMode_(const Call& c, const Value& slot, const Value& mode) {
   _checkTrellisSlot(slot);
   const int64_t port = changeToTrellisPort(slot.asInt());
   const uint8_t data_out[] = {byteOf(2 * port), byteArg(mode)};
@@ -198,25 +198,25 @@ int SystemModule::_Sys_setSlotMode(const Call& c, const Value& slot, const Value
 }
 
 int SystemModule::Sys_setIdleMode(const Call& c, const Value& slot) {
-  return _Sys_setSlotMode(c, slot, 0);
+  return Sys_setSlotMode_(c, slot, 0);
 }
 int SystemModule::Sys_setDIMode(const Call& c, const Value& slot) {
-  return _Sys_setSlotMode(c, slot, 1);
+  return Sys_setSlotMode_(c, slot, 1);
 }
 int SystemModule::Sys_setDOMode(const Call& c, const Value& slot) {
-  return _Sys_setSlotMode(c, slot, 2);
+  return Sys_setSlotMode_(c, slot, 2);
 }
 int SystemModule::Sys_setDIOMode(const Call& c, const Value& slot) {
-  return _Sys_setSlotMode(c, slot, 3);
+  return Sys_setSlotMode_(c, slot, 3);
 }
 int SystemModule::Sys_setMotionMode(const Call& c, const Value& slot) {
-  return _Sys_setSlotMode(c, slot, 4);
+  return Sys_setSlotMode_(c, slot, 4);
 }
 int SystemModule::Sys_setAIOMode(const Call& c, const Value& slot) {
-  return _Sys_setSlotMode(c, slot, 5);
+  return Sys_setSlotMode_(c, slot, 5);
 }
 int SystemModule::Sys_setSwitchMode(const Call& c, const Value& slot) {
-  return _Sys_setSlotMode(c, slot, 6);
+  return Sys_setSlotMode_(c, slot, 6);
 }
 
 // ---- reboot ---------------------------------------------------------------------

@@ -13,8 +13,8 @@
 #include <vector>
 
 #include "link/call.hpp"
-#include "link/module.hpp"
 #include "link/value.hpp"
+#include "models/module.hpp"
 
 namespace orv {
 
@@ -77,7 +77,7 @@ class SystemModule : public ModuleBase, public SystemBased {
   int Sys_setAIOMode(const Call& c, const Value& slot);
   int Sys_setSwitchMode(const Call& c, const Value& slot);
   // The firmware's status byte as it stands (not turned into a code).
-  int _Sys_setSlotMode(const Call& c, const Value& slot, const Value& mode);
+  int Sys_setSlotMode_(const Call& c, const Value& slot, const Value& mode);
 
   // Reboot.
   int Sys_reboot(const Call& c);
@@ -101,6 +101,7 @@ class SystemModule : public ModuleBase, public SystemBased {
   Attr<std::vector<int64_t>> pin_mode_list;
   Attr<std::string> thread_info;
 };
+ORV_MODULE_CLASS("System", SystemModule);
 
 // Payload helpers of the service modules.
 namespace services {

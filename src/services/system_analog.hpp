@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "link/call.hpp"
-#include "link/module.hpp"
+#include "models/module.hpp"
 
 namespace orv {
 
@@ -25,11 +25,12 @@ class SystemAnalogModule : public ModuleBase {
   int64_t Wifi_readBattery(const Call& c);
   // Degrees Celsius: the signed word over 128.
   double Wifi_readThermo(const Call& c);
-  int _Wifi_resetAIBuffer(const Call& c);
+  int Wifi_resetAIBuffer_(const Call& c);
 
   // Attributes holding the last result of a read.
   Attr<int64_t> battery;
   Attr<double> thermo;
 };
+ORV_MODULE_CLASS("SystemAnalog", SystemAnalogModule);
 
 }  // namespace orv

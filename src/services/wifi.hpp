@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "link/call.hpp"
-#include "link/module.hpp"
 #include "link/value.hpp"
+#include "models/module.hpp"
 
 namespace orv {
 
@@ -51,5 +51,6 @@ class WifiModule : public ModuleBase {
   int64_t readPowerBit(const Call& c, int bit);
   int writeLED(const Call& c, uint16_t mask, uint16_t state);
 };
+ORV_MODULE_CLASS("Wifi", WifiModule);
 
 }  // namespace orv
