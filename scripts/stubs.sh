@@ -6,7 +6,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 out=$(mktemp -d)
-python3 -m pybind11_stubgen pyorv._pyorv -o "$out" --ignore-all-errors >/dev/null
+"${PYTHON:-python3}" -m pybind11_stubgen pyorv._pyorv -o "$out" --ignore-all-errors >/dev/null
 cp "$out/pyorv/_pyorv/__init__.pyi" python/pyorv/_pyorv.pyi
 sed 's/^import pyorv._pyorv$/import pyorv._pyorv as _pyorv_core/' "$out/pyorv/_pyorv/_sim.pyi" > python/pyorv/sim.pyi
 rm -rf "$out"

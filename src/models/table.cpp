@@ -210,15 +210,19 @@ std::vector<ModelInfo> makeTable() {
                .di_dict = ain_can_dio,
                .do_dict = ain_can_dio,
                .ai = kAiPlover});
-  t.push_back({.class_name = "PloverTc",
-               .label = "Plover-Tc",
-               .data_logger = true,
-               .thermal_dict = kPloverThermal,
-               .uart_dict = kPloverUart,
-               .I2C_dict = kPloverI2C,
-               .SPI_dict = kPloverSpiPort2,
-               .di_dict = tc_rtd_dio,
-               .do_dict = tc_rtd_dio});
+  // PloverTc and PloverRtd differ in the sensors of their thermal module only.
+  auto thermal_plover = [&](const char* class_name, const char* label) {
+    return ModelInfo{.class_name = class_name,
+                     .label = label,
+                     .data_logger = true,
+                     .thermal_dict = kPloverThermal,
+                     .uart_dict = kPloverUart,
+                     .I2C_dict = kPloverI2C,
+                     .SPI_dict = kPloverSpiPort2,
+                     .di_dict = tc_rtd_dio,
+                     .do_dict = tc_rtd_dio};
+  };
+  t.push_back(thermal_plover("PloverTc", "Plover-Tc"));
   t.push_back({.class_name = "PloverCan",
                .label = "Plover-Can",
                .data_logger = true,
@@ -245,15 +249,7 @@ std::vector<ModelInfo> makeTable() {
                .do_dict = aio_dio,
                .ai = kAiPlover,
                .ao = kAoPlover});
-  t.push_back({.class_name = "PloverRtd",
-               .label = "Plover-Rtd",
-               .data_logger = true,
-               .thermal_dict = kPloverThermal,
-               .uart_dict = kPloverUart,
-               .I2C_dict = kPloverI2C,
-               .SPI_dict = kPloverSpiPort2,
-               .di_dict = tc_rtd_dio,
-               .do_dict = tc_rtd_dio});
+  t.push_back(thermal_plover("PloverRtd", "Plover-Rtd"));
   applyModelDefs(t);
   return t;
 }
