@@ -7,12 +7,11 @@
 # Usage: scripts/check.sh [stubs|format|layers]...   (all three by default)
 #   ORV_FORMAT_BASE=REV  checks the format of the C++ files changed since REV only
 # The stubs need an importable pyorv: installed by scripts/setup.sh, or
-# PYTHONPATH=build/dev/stage.  Missing tools (clang-format, pybind11-stubgen)
-# are installed first.
+# PYTHONPATH=build/dev/stage.  A missing clang-format is installed first;
+# scripts/stubs.sh installs its pybind11-stubgen.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 PY=${PYTHON:-python3}
-STUBGEN_VERSION=3.0.0
 checks=("$@")
 [ ${#checks[@]} -gt 0 ] || checks=(stubs format layers)
 failed=()
@@ -24,11 +23,6 @@ need_tools() {
     if [ "$(id -u)" != 0 ] && command -v sudo >/dev/null; then sudo=sudo; fi
     $sudo apt-get update -qq
     DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq clang-format >/dev/null
-  fi
-  if [[ " ${checks[*]} " == *" stubs "* ]] &&
-    [ "$($PY -m pip show pybind11-stubgen 2>/dev/null | sed -n 's/^Version: //p')" != "$STUBGEN_VERSION" ]; then
-    echo "== pip install pybind11-stubgen==$STUBGEN_VERSION"
-    $PY -m pip install -q --disable-pip-version-check "pybind11-stubgen==$STUBGEN_VERSION"
   fi
 }
 
