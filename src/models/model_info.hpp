@@ -47,7 +47,8 @@ struct ModelInfo {
   std::string label;
   DeviceKind device = DeviceKind::None;
   bool data_logger = false;
-  // Names of the modules the model has, in their order ("System", "DIO", ...).
+  // Names of the modules the model has, in their order ("System", "DIO", ...),
+  // and its device class: from models/models.def.
   std::vector<std::string> modules;
 
   PortMap ai_dict, ao_dict, thermal_dict, ahrs_dict, uart_dict, I2C_dict, SPI_dict, can_dict,
@@ -58,9 +59,6 @@ struct ModelInfo {
   // Meaningful where the model has "AI" and "AO".
   AiParams ai;
   AoParams ao;
-
-  // Module parameters that are plain numbers or texts, by name.
-  std::map<std::string, double, std::less<>> params;
 
   // The hardware fixes the direction of every digital pin: direction changes
   // of DIOModule do nothing and return 0.

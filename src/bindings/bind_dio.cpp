@@ -1,13 +1,8 @@
-// The digital I/O modules as the host sees them: DIOModule, PWMModule,
-// CounterModule, RelayModule and DPOTModule, one line per operation.
+// DIOModule as the host sees it: one line per operation.
 #include "bindings/bindings.hpp"
 #include "bindings/twin.hpp"
 #include "bindings/twin_def.hpp"
-#include "digital/counter.hpp"
 #include "digital/dio.hpp"
-#include "digital/dpot.hpp"
-#include "digital/pwm.hpp"
-#include "digital/relay.hpp"
 
 namespace orv::py_bind {
 
@@ -75,68 +70,7 @@ void bindDIO(py::module_& m) {
       "pin"_a);
 }
 
-void bindPWM(py::module_& m) {
-  using namespace pybind11::literals;
-  py::class_<PWMModule, std::shared_ptr<PWMModule>> pwm(m, "PWMModule");
-  defTwin(pwm, "PWM_open", &PWMModule::PWM_open, "channel"_a);
-  defTwin(pwm, "PWM_start", &PWMModule::PWM_start, "channel"_a);
-  defTwin(pwm, "PWM_stop", &PWMModule::PWM_stop, "channel"_a);
-  defTwin(pwm, "PWM_close", &PWMModule::PWM_close, "channel"_a);
-  defTwin(pwm, "PWM_setFrequency", &PWMModule::PWM_setFrequency, "channel"_a, "frequency"_a);
-  defTwin(pwm, "PWM_setDutyCycle", &PWMModule::PWM_setDutyCycle, "channel"_a, "duty_cycle"_a);
-  pwm.def(
-      "_checkPWMChannel",
-      [](PWMModule&, const Value& ch) { return PWMModule::_checkPWMChannel(ch); }, "channel"_a);
-}
-
-void bindCounter(py::module_& m) {
-  using namespace pybind11::literals;
-  py::class_<CounterModule, std::shared_ptr<CounterModule>> cnt(m, "CounterModule");
-  defTwin(cnt, "Counter_open", &CounterModule::Counter_open, "channel"_a);
-  defTwin(cnt, "Counter_start", &CounterModule::Counter_start, "channel"_a);
-  defTwin(cnt, "Counter_read", &CounterModule::Counter_read, "channel"_a);
-  defTwin(cnt, "Counter_stop", &CounterModule::Counter_stop, "channel"_a);
-  defTwin(cnt, "Counter_close", &CounterModule::Counter_close, "channel"_a);
-  cnt.def(
-      "_checkCounterChannel",
-      [](CounterModule&, const Value& ch) { return CounterModule::_checkCounterChannel(ch); },
-      "channel"_a);
-}
-
-void bindRelay(py::module_& m) {
-  using namespace pybind11::literals;
-  py::class_<RelayModule, std::shared_ptr<RelayModule>> relay(m, "RelayModule");
-  defTwin(relay, "Relay_open", &RelayModule::Relay_open);
-  defTwin(relay, "Relay_close", &RelayModule::Relay_close);
-  defTwin(relay, "Relay_read", &RelayModule::Relay_read, "index"_a = -1);
-  relay.def(
-      "_checkRelayindex",
-      [](RelayModule&, const Value& i) { return RelayModule::_checkRelayindex(i); }, "index"_a);
-}
-
-void bindDPOT(py::module_& m) {
-  using namespace pybind11::literals;
-  py::class_<DPOTModule, std::shared_ptr<DPOTModule>> dpot(m, "DPOTModule");
-  defTwin(dpot, "DPOT_open", &DPOTModule::DPOT_open, "port"_a);
-  defTwin(dpot, "DPOT_close", &DPOTModule::DPOT_close, "port"_a);
-  defTwin(dpot, "DPOT_readByChannel", &DPOTModule::DPOT_readByChannel, "port"_a, "channel"_a);
-  defTwin(dpot, "DPOT_writeAllChannel", &DPOTModule::DPOT_writeAllChannel, "port"_a,
-          "resistance_ratio"_a);
-  dpot.def(
-      "_checkDPOTPort", [](DPOTModule&, const Value& p) { return DPOTModule::_checkDPOTPort(p); },
-      "port"_a);
-  dpot.def(
-      "_checkDPOTChannelAmount",
-      [](DPOTModule&, const Value& ch) { return DPOTModule::_checkDPOTChannelAmount(ch); },
-      "channel"_a);
-}
-
 const BindingRegistrar kDIO{{.name = "DIOModule", .module = "DIO", .bind = &bindDIO}};
-const BindingRegistrar kPWM{{.name = "PWMModule", .module = "PWM", .bind = &bindPWM}};
-const BindingRegistrar kCounter{
-    {.name = "CounterModule", .module = "Counter", .bind = &bindCounter}};
-const BindingRegistrar kRelay{{.name = "RelayModule", .module = "Relay", .bind = &bindRelay}};
-const BindingRegistrar kDPOT{{.name = "DPOTModule", .module = "DPOT", .bind = &bindDPOT}};
 
 }  // namespace
 
