@@ -1686,6 +1686,8 @@ class TrellisLite:
     """
     Trellis-Lite: a class with no bases and no operations.
     """
+def _checkModelClasses() -> None:
+    ...
 def _modelTable() -> dict:
     ...
 def _shutdown() -> None:

@@ -179,6 +179,11 @@ void bindModels(py::module_& m) {
 
   bindCatalogue(m);
   checkModelClasses(m);
+  // The same check again, for tests that swap a class of the module.
+  m.def("_checkModelClasses", [] {
+    auto self = py::module_::import("pyorv._pyorv");
+    checkModelClasses(self);
+  });
 }
 
 }  // namespace orv::py_bind
