@@ -82,9 +82,9 @@ void replyWord(Context& ctx, int port, uint16_t w) {
   ctx.reply(out);
 }
 
-// Counts relay switchings when output port 0 of a KestrelRelay changes.
+// Counts relay switchings when output port 0 of a model with relays changes.
 void countRelays(Context& ctx, int port, uint16_t before, uint16_t after) {
-  if (port != 0 || ctx.device().model() != "KestrelRelay" || before == after) return;
+  if (port != 0 || !infoOf(ctx).has("Relay") || before == after) return;
   DeviceState& st = ctx.state();
   std::lock_guard lk(st.mutex());
   Value counters = st.get("relay.counters", Value::listOf(std::vector<int64_t>(kRelays, 0)));

@@ -60,12 +60,7 @@ struct RtcState {
   steady_clock::time_point at;
 };
 
-bool isHeron(const SimDevice& dev) {
-  return dev.model().find("Heron") != std::string::npos ||
-         modelInfo(dev.model()).label.find("Heron") != std::string::npos;
-}
-
-int yearBase(const SimDevice& dev) { return isHeron(dev) ? 2000 : 1900; }
+int yearBase(const SimDevice& dev) { return modelInfo(dev.model()).rtc_base_year; }
 
 sys_seconds rtcNow(SimDevice& dev) {
   auto s = dev.state().slot<RtcState>();
