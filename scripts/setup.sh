@@ -21,7 +21,7 @@ fi
 
 echo "== pip: build and test requirements"
 $PY -m pip install -q --disable-pip-version-check \
-  "scikit-build-core>=0.10" "pybind11>=2.12" "cmake>=3.20" ninja pytest pytest-timeout numpy
+  "scikit-build-core>=0.10" "pybind11==3.1.0" "cmake>=3.20" ninja pytest pytest-timeout numpy
 
 echo "== pip install . (C++ core, simulator and extension)"
 $PY -m pip install -q --disable-pip-version-check --no-build-isolation .

@@ -2,7 +2,8 @@
 # Regenerates the type stubs of the extension from the built module:
 #   python/pyorv/_pyorv.pyi   the compiled core
 #   python/pyorv/sim.pyi      the simulator (pyorv.sim re-exports pyorv._pyorv._sim)
-# Needs an importable pyorv (installed, or PYTHONPATH=build/dev/stage); installs
+# The stubs depend on the pybind11 that built the extension: scripts/setup.sh
+# pins it.  Needs an importable pyorv (installed, or PYTHONPATH=build/dev/stage); installs
 # the pybind11-stubgen the committed stubs were made with when it is missing.
 set -euo pipefail
 cd "$(dirname "$0")/.."
