@@ -9,6 +9,7 @@ import pytest
 
 import pyorv
 import pyorv.sim as sim
+from conftest import answer, wire
 
 SET_AP, GET_RSSI, SET_WIFI_CONFIGURATION, GET_WIFI_CONFIGURATION = 112, 113, 116, 117
 SET_WIFI_BANDWIDTH, GET_WIFI_BANDWIDTH, GET_GATEWAY, SET_GATEWAY = 118, 119, 124, 125
@@ -16,36 +17,8 @@ READ_AND_GET_DI, SET_AND_WRITE_DO = 233, 234
 GET_IP, SET_IP, GET_MAC, SET_MAC = 243, 244, 245, 246
 
 
-def wire(sim_dev):
-    return [(p.cmd, bytes(p.data)) for p in sim_dev.packets()]
-
-
-def answer(data):
-    return lambda ctx, req: ctx.reply(bytes(data))
-
-
 def run(coro):
     return asyncio.run(coro)
-
-
-@pytest.fixture
-def trellis(simulator):
-    s = simulator.add_device(sim.DeviceConfig(model="Trellis", serial="SIMNET01",
-                                              mac="02:4F:52:56:00:0A", gateway="127.0.0.254"))
-    dev = pyorv.Trellis(verbose=False)
-    dev.connect(s.host, s.cmd_port, verbose=False)
-    yield dev, s
-    dev.close(verbose=False)
-
-
-@pytest.fixture
-def heron(simulator):
-    s = simulator.add_device(sim.DeviceConfig(model="HeronAin", link=sim.Link.Wifi,
-                                              serial="SIMNET02"))
-    dev = pyorv.HeronAin(verbose=False)
-    dev.connect(s.host, port1=s.data_port, port2=s.cmd_port, verbose=False)
-    yield dev, s
-    dev.close(verbose=False)
 
 
 # ---- addressing --------------------------------------------------------------------------

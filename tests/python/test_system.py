@@ -12,7 +12,7 @@ import pytest
 
 import pyorv
 import pyorv.sim as sim
-from conftest import wait_until
+from conftest import answer, wait_until, wire
 
 RESET_FACTORY, GET_SERIAL_NUMBER, SET_SERIAL_NUMBER, GET_THREADS = 121, 122, 123, 126
 GET_PIN_MODE_OF_SLOT, GET_DATE_TIME, SET_DATE_TIME = 127, 241, 242
@@ -23,36 +23,8 @@ READ_ACCELERATION, GET_BATTERY, GET_THERMOMETER, AI_RESET_BUFFER = 111, 114, 115
 RTC_FORMAT = re.compile(r"^\d{4}-\d{2}-\d{2}, \d{2}:\d{2}:\d{2}$")
 
 
-def wire(sim_dev):
-    return [(p.cmd, bytes(p.data)) for p in sim_dev.packets()]
-
-
-def answer(data):
-    """A per-device handler that answers every request with `data`."""
-    return lambda ctx, req: ctx.reply(bytes(data))
-
-
 def run(coro):
     return asyncio.run(coro)
-
-
-@pytest.fixture
-def trellis(simulator):
-    s = simulator.add_device(sim.DeviceConfig(model="Trellis", serial="SIMSYS01"))
-    dev = pyorv.Trellis(verbose=False)
-    dev.connect(s.host, s.cmd_port, verbose=False)
-    yield dev, s
-    dev.close(verbose=False)
-
-
-@pytest.fixture
-def heron(simulator):
-    s = simulator.add_device(sim.DeviceConfig(model="HeronAin", link=sim.Link.Wifi,
-                                              serial="SIMSYS02"))
-    dev = pyorv.HeronAin(verbose=False)
-    dev.connect(s.host, port1=s.data_port, port2=s.cmd_port, verbose=False)
-    yield dev, s
-    dev.close(verbose=False)
 
 
 # ---- identity ----------------------------------------------------------------------------
@@ -77,7 +49,7 @@ def test_python_version_is_answered_without_an_exchange(trellis):
 
 def test_serial_number_set_and_read_back(trellis):
     dev, s = trellis
-    assert dev.Sys_getSerialNumber() == "SIMSYS01" == dev.serial_number
+    assert dev.Sys_getSerialNumber() == s.config.serial == dev.serial_number
     assert dev._setSerialNumber("AB12") == 0
     assert wire(s)[-1] == (SET_SERIAL_NUMBER, b"AB12")
     # The firmware pads its 8 bytes with blanks; the driver keeps them.
