@@ -88,18 +88,6 @@ def test_finder_is_a_broadcast_device_with_its_label(capsys, discovery_port):
         assert callable(getattr(f, name + "_async"))
 
 
-def test_broadcast_target_from_the_environment(monkeypatch):
-    # Read at send time; checked here without sending anything.
-    monkeypatch.setenv("PYORV_BROADCAST_ADDR", "127.0.0.1:40123")
-    f = pyorv.DeviceFinder(verbose=False)
-    try:
-        assert f.client_udp.broadcast_target == ("127.0.0.1", 40123)
-        monkeypatch.setenv("PYORV_BROADCAST_ADDR", "127.0.0.2")
-        assert f.client_udp.broadcast_target == ("127.0.0.2", pyorv.UDP_SEND_PORT)
-    finally:
-        f.close(verbose=False)
-
-
 # ---- discovery ---------------------------------------------------------------------
 
 def test_three_devices_listed_once_then_a_fresh_discovery(simulator, finder):
