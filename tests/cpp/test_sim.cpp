@@ -302,6 +302,7 @@ TEST(SimRegistry, ModulePriorityWinsOverCoreWhateverTheOrder) {
 }
 
 // --- faults ------------------------------------------------------------------
+// (drop_next, delay_us and never-answer are exercised by the exchange tests.)
 
 class SimFaults : public ::testing::Test {
  protected:
@@ -319,26 +320,6 @@ class SimFaults : public ::testing::Test {
   std::unique_ptr<RawTcp> client_;
   const Bytes reply_ = frame(GET_SERIAL_NUMBER, text("SIM00001"));
 };
-
-TEST_F(SimFaults, DropSwallowsTheNextReplies) {
-  dev_->faults().drop_next = 2;
-  client_->send(frame(GET_SERIAL_NUMBER, {}));
-  client_->send(frame(GET_SERIAL_NUMBER, {}));
-  client_->send(frame(GET_SERIAL_NUMBER, {}));
-  ASSERT_TRUE(dev_->waitForPackets(3, 2s));
-  EXPECT_EQ(client_->readBytes(reply_.size()), reply_);
-  EXPECT_FALSE(client_->recvOnce(100ms).has_value());
-  EXPECT_EQ(dev_->faults().drop_next.load(), 0);
-}
-
-TEST_F(SimFaults, DelayHoldsEachReplyBack) {
-  dev_->faults().delay_us = 60000;
-  const auto t0 = Clock::now();
-  EXPECT_EQ(ask(), reply_);
-  EXPECT_GE(Clock::now() - t0, 60ms);
-  dev_->faults().delay_us = 0;
-  EXPECT_EQ(ask(), reply_);
-}
 
 TEST_F(SimFaults, CorruptBreaksTheLengthOfTheNextReplyOnly) {
   dev_->faults().corrupt_next = 1;
@@ -374,17 +355,6 @@ TEST_F(SimFaults, JunkGoesAheadOfEachReply) {
   EXPECT_EQ(client_->readBytes(want.size()), want);
   client_->send(frame(GET_SERIAL_NUMBER, {}));
   EXPECT_EQ(client_->readBytes(want.size()), want);
-}
-
-TEST_F(SimFaults, NeverAnswerIgnoresOneCommand) {
-  dev_->faults().neverAnswer(GET_SERIAL_NUMBER);
-  client_->send(frame(GET_SERIAL_NUMBER, {}));
-  ASSERT_TRUE(dev_->waitForPackets(1, 2s));
-  EXPECT_FALSE(client_->recvOnce(100ms).has_value());
-  client_->send(frame(orv::GET_DRIVER_INFO, {0}));
-  EXPECT_EQ(client_->readPackets(1).size(), 1u);
-  dev_->faults().answerAgain(GET_SERIAL_NUMBER);
-  EXPECT_EQ(ask(), reply_);
 }
 
 TEST_F(SimFaults, CloseLinkEndsTheConnectionAndTheDeviceTakesANewOne) {
