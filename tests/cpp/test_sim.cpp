@@ -171,39 +171,6 @@ TEST(SimTcp, SerialNumberIsEightBytesPaddedWithSpaces) {
   EXPECT_EQ(c.readBytes(serial.size()), serial);
 }
 
-TEST(SimTcp, RecordsEveryPacketInOrderWithItsLink) {
-  Simulator sim;
-  auto& dev = sim.addDevice(ethConfig());
-  RawTcp c(dev.cmdPort());
-  ASSERT_TRUE(c.ok());
-  // Three packets in one write: a two-byte command, a payload holding an end
-  // mark and a start byte, and a command nobody handles.
-  Bytes burst = frame(orv::AHRS_START, {});
-  const Bytes tricky{0x01, 0x0D, 0x0A, 0x02, 0x00};
-  const Bytes a = frame(200, tricky), b = frame(77, {9, 8, 7});
-  burst.insert(burst.end(), a.begin(), a.end());
-  burst.insert(burst.end(), b.begin(), b.end());
-  const auto t0 = Clock::now();
-  c.send(burst);
-  ASSERT_TRUE(dev.waitForPackets(3, 2s));
-  const auto got = dev.packets();
-  ASSERT_EQ(got.size(), 3u);
-  EXPECT_EQ(got[0].cmd, orv::AHRS_START);
-  EXPECT_TRUE(got[0].data.empty());
-  EXPECT_EQ(got[1].cmd, 200);
-  EXPECT_EQ(got[1].data, tricky);
-  EXPECT_EQ(got[2].cmd, 77);
-  EXPECT_EQ(got[2].data, (Bytes{9, 8, 7}));
-  for (const auto& r : got) {
-    EXPECT_EQ(r.channel, Channel::Cmd);
-    EXPECT_GE(r.time, t0);
-  }
-  // Unhandled commands are silent.
-  EXPECT_FALSE(c.recvOnce(100ms).has_value());
-  dev.clearPackets();
-  EXPECT_EQ(dev.packetCount(), 0u);
-}
-
 TEST(SimTcp, OverrideAndFallbackHandlers) {
   Simulator sim;
   auto& dev = sim.addDevice(ethConfig());

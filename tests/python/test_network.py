@@ -133,7 +133,6 @@ def test_wifi_model_has_the_network_settings_too(heron):
     dev, s = heron
     assert dev.Net_getIPAddrAndSubmask() == ["127.0.0.1", "255.255.255.0"]
     assert dev.Net_getMACAddr() == "2:4f:52:56:0:1"
-    assert isinstance(dev, pyorv.NetworkModule) and isinstance(dev, pyorv.WifiModule)
 
 
 # ---- Wi-Fi: LEDs and power lines ---------------------------------------------------------
@@ -244,9 +243,3 @@ def test_simulated_rssi_and_access_point(heron):
     assert wire(s)[-1] == (SET_AP, b"")
     s.set_handler(SET_AP, answer([71]))
     assert run(dev.Wifi_setAP_async()) == pyorv.errFirmwareTCP
-
-
-def test_wifi_operations_only_on_wifi_models(trellis):
-    dev, _ = trellis
-    assert not isinstance(dev, pyorv.WifiModule)
-    assert not hasattr(dev, "Wifi_readRSSI") and not hasattr(dev, "Wifi_setBlueLED")
