@@ -7,7 +7,6 @@ import asyncio
 import pytest
 
 import pyorv
-import pyorv.sim as sim
 from conftest import last, wire
 
 LOAD_DIO_STARTUP, SAVE_DIO_STARTUP, GET_DIO_CURRENT, SET_DIO_CURRENT = 224, 225, 226, 227
@@ -285,12 +284,3 @@ def test_awaitable_argument_errors_raise_on_await(dio_x):
 
     asyncio.run(run())
     assert s.packet_count() == 0
-
-
-def test_usb_plover_round_trip(pair):
-    dev, s = pair("PloverDio")
-    assert s.link == sim.Link.Usb
-    s.state_set("dio.loopback", [[0, 0, 2, 6]])
-    assert dev.DO_openPins(0, [0]) == 0 and dev.DI_openPins(2, [6]) == 0
-    dev.DO_writePins(0, 1, 1)
-    assert dev.DI_readPins(2, [6, 7]) == [1, 0]
