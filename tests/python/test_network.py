@@ -8,7 +8,6 @@ import asyncio
 import pytest
 
 import pyorv
-import pyorv.sim as sim
 from conftest import answer, wire
 
 SET_AP, GET_RSSI, SET_WIFI_CONFIGURATION, GET_WIFI_CONFIGURATION = 112, 113, 116, 117

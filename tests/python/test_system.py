@@ -11,7 +11,6 @@ import re
 import pytest
 
 import pyorv
-import pyorv.sim as sim
 from conftest import answer, wait_until, wire
 
 RESET_FACTORY, GET_SERIAL_NUMBER, SET_SERIAL_NUMBER, GET_THREADS = 121, 122, 123, 126
