@@ -349,27 +349,6 @@ TEST(TcpClient, SendToAClosedPeerFailsWithoutSignal) {
   EXPECT_TRUE(failed);
 }
 
-TEST(TcpClient, RepeatedConnectsLeakNoDescriptor) {
-  Listener server;
-  TCPClient client;
-  const int before = openFdCount();
-  for (int i = 0; i < 200; ++i) {
-    client.connect("127.0.0.1", server.port());
-    Fd peer = server.accept();
-    ASSERT_GE(peer.get(), 0);
-    client.disconnect();
-  }
-  // A connect on a client that still holds a socket replaces it.
-  client.connect("127.0.0.1", server.port());
-  Fd a = server.accept();
-  client.connect("127.0.0.1", server.port());
-  Fd b = server.accept();
-  a.reset();
-  b.reset();
-  client.disconnect();
-  EXPECT_EQ(openFdCount(), before);
-}
-
 // A reader that loops like a receive thread while the link is cycled: it
 // must only ever see data, a closed link or an empty read, never a
 // descriptor that was closed under it.
