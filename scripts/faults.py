@@ -140,8 +140,13 @@ def run(cmd, cwd, env=None, timeout=1800):
     return p.returncode == 0, "\n".join(lines[-15:])
 
 
-def build(tree, build_dir, jobs):
-    return run(["nice", "-n", "19", "cmake", "--build", str(build_dir), "-j", str(jobs)], tree)
+def build(tree, build_dir, jobs, *targets):
+    cmd = ["nice", "-n", "19", "cmake", "--build", str(build_dir), "-j", str(jobs)]
+    if targets:
+        cmd += ["--target", *targets]
+    # Paths relative to /work-like roots let worktrees share the compiler cache.
+    env = dict(os.environ, CCACHE_BASEDIR=str(tree.parent), CCACHE_NOHASHDIR="1")
+    return run(cmd, tree, env=env)
 
 
 def isolated(cmd):
@@ -160,13 +165,20 @@ def first_failure(out):
     return out.splitlines()[-1] if out else ""
 
 
-def test(tree, build_dir):
+def test(tree, build_dir, jobs):
     """('cpp' or 'python', the first failure) for the suite that failed first,
-    (None, "") when all pass."""
+    (None, "") when all pass; ('build', output) when a build fails.  The
+    extension is only rebuilt when the C++ tests pass."""
+    ok, out = build(tree, build_dir, jobs, "orv_tests")
+    if not ok:
+        return "build", out
     ok, out = run(isolated([str(build_dir / "orv_tests"), "--gtest_brief=1",
                             "--gtest_fail_fast"]), tree, timeout=900)
     if not ok:
         return "cpp", first_failure(out)
+    ok, out = build(tree, build_dir, jobs, "_pyorv")
+    if not ok:
+        return "build", out
     env = dict(os.environ, PYTHONPATH=str(build_dir / "stage"))
     ok, out = run(isolated([sys.executable, "-m", "pytest", "-x", "-q", "-p", "no:cacheprovider",
                             "--timeout=300"]), tree / "tests" / "python", env=env)
@@ -206,12 +218,8 @@ def main():
         else:
             try:
                 path.write_text(original.replace(old, new))
-                ok, out = build(tree, build_dir, args.jobs)
-                if not ok:
-                    result, detail = "build failed", out
-                else:
-                    stage, detail = test(tree, build_dir)
-                    result = f"caught ({stage})" if stage else "MISSED"
+                stage, detail = test(tree, build_dir, args.jobs)
+                result = {None: "MISSED", "build": "build failed"}.get(stage, f"caught ({stage})")
             finally:
                 path.write_text(original)
         row = {"n": n, "what": what, "file": rel, "result": result, "by": detail,
