@@ -27,12 +27,6 @@ def kestrel(pair):
     return pair("KestrelDio")
 
 
-def test_models_have_the_modules_of_their_row():
-    assert issubclass(pyorv.KestrelDio, pyorv.PWMModule)
-    assert not issubclass(pyorv.KestrelDio, pyorv.CounterModule)
-    assert issubclass(pyorv.PloverSink, pyorv.CounterModule)
-
-
 @pytest.mark.parametrize("call", [
     lambda d: d.PWM_open(2), lambda d: d.PWM_start(-1), lambda d: d.PWM_stop("0"),
     lambda d: d.PWM_close(None), lambda d: d.PWM_setFrequency(2, 1000),
