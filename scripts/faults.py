@@ -130,14 +130,13 @@ FAULTS = [
 
 
 def run(cmd, cwd, env=None, timeout=1800):
-    """Runs a command quietly; returns (ok, tail of its output)."""
+    """Runs a command quietly; returns (ok, its output)."""
     try:
         p = subprocess.run(cmd, cwd=cwd, env=env, stdout=subprocess.PIPE,
                            stderr=subprocess.STDOUT, text=True, timeout=timeout)
     except subprocess.TimeoutExpired:
         return False, "timed out"
-    lines = p.stdout.strip().splitlines()
-    return p.returncode == 0, "\n".join(lines[-15:])
+    return p.returncode == 0, p.stdout.strip()
 
 
 def build(tree, build_dir, jobs, *targets):
@@ -171,14 +170,14 @@ def test(tree, build_dir, jobs):
     extension is only rebuilt when the C++ tests pass."""
     ok, out = build(tree, build_dir, jobs, "orv_tests")
     if not ok:
-        return "build", out
+        return "build", "\n".join(out.splitlines()[-15:])
     ok, out = run(isolated([str(build_dir / "orv_tests"), "--gtest_brief=1",
                             "--gtest_fail_fast"]), tree, timeout=900)
     if not ok:
         return "cpp", first_failure(out)
     ok, out = build(tree, build_dir, jobs, "_pyorv")
     if not ok:
-        return "build", out
+        return "build", "\n".join(out.splitlines()[-15:])
     env = dict(os.environ, PYTHONPATH=str(build_dir / "stage"))
     ok, out = run(isolated([sys.executable, "-m", "pytest", "-x", "-q", "-p", "no:cacheprovider",
                             "--timeout=300"]), tree / "tests" / "python", env=env)
