@@ -379,7 +379,7 @@ TEST(SimWifi, StreamsOnTheDataLinkWhileCommandsAnswerOnTheCommandLink) {
   EXPECT_EQ(cmd.readBytes(7), frame(99, {7}));
 
   const auto got = dev.packets();
-  ASSERT_EQ(got.size(), 3u);
+  ASSERT_EQ(got.size(), 2u);  // the start and the close
   for (const auto& r : got) EXPECT_EQ(r.channel, Channel::Cmd);
 }
 

@@ -78,8 +78,8 @@ def test_model_matches_its_golden_row(name):
     assert {k: row[k] or None for k in ("label", "device_class")} == {
         k: golden[k] for k in ("label", "device_class")}
     assert (row["modules"], row["data_logger"]) == (golden["modules"], golden["data_logger"])
-    assert {k: v for k, v in row.items() if k.startswith(("ai_", "ao_"))} == golden.get(
-        "analog", {})
+    analog = {k: v for k, v in row.items() if k[:3] in ("ai_", "ao_") and k[-5:] != "_dict"}
+    assert analog == golden.get("analog", {})
     cls = getattr(pyorv, name)
     if not golden["device_class"]:
         assert cls.__bases__ == (object,)
