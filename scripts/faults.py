@@ -75,7 +75,7 @@ FAULTS = [
      "say(verbose, \"Connected to \" + ip_addr + \" (\" + deviceName() + \")\");",
      "say(verbose, \"Connected with \" + ip_addr + \" (\" + deviceName() + \")\");"),
     ("simulator pads the serial number to 7 bytes",
-     "sim/handlers_core.cpp",
+     "sim/handlers_system.cpp",
      "s.resize(8, ' ');",
      "s.resize(7, ' ');"),
     ("close detaches the receive thread instead of joining it",
