@@ -99,6 +99,7 @@ def test_di_pins_take_a_list_only_do_pins_take_a_mask_as_well(dio_x):
     (lambda d: d.DIO_setPortIdle(2), pyorv.DOPortNotAvaliableError),  # idle is checked on outputs
     (lambda d: d.DIO_setPortDI(0), pyorv.DIPortNotAvaliableError),
     (lambda d: d.DIO_setPortDO(2), pyorv.DOPortNotAvaliableError),
+    (lambda d: d._writeDO(256), ValueError),  # no map check here: the payload byte refuses
 ])
 def test_argument_errors_send_nothing(dio_x, call, error):
     dev, s = dio_x

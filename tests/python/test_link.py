@@ -3,6 +3,7 @@ over real loopback sockets and the virtual USB backend."""
 
 import asyncio
 import gc
+import re
 import subprocess
 import sys
 import textwrap
@@ -34,6 +35,15 @@ def test_messages_of_a_network_device(capsys, eth_sim):
         "Closed handle (ETHDevice)",
     ]
     assert dev.killed and dev._aliveThreads() == []
+
+
+def test_connect_defaults_are_the_devices_own_ports():
+    # What connect(ip) assumes, as help() shows it: commands on TCP_CMD_PORT.
+    def default(method, name):
+        return int(re.search(rf"{name}: [^=]*= (\d+)", method.__doc__)[1])
+
+    assert default(pyorv.ETHDevice.connect, "port") == pyorv.TCP_CMD_PORT
+    assert default(pyorv.WifiDevice.connect, "port2") == pyorv.TCP_CMD_PORT
 
 
 def test_close_disconnects_with_its_own_message_and_never_connected_close(capsys, eth_sim):
