@@ -342,7 +342,7 @@ std::set<Bytes> Device::broadcastPacket(int cmd, std::span<const uint8_t> data_o
   const Bytes packet = preparePacket(cmd, data_out);
   for (int i = 0; i < NUM_BCST_RETRIES; ++i) udp->sendBcstPacket(packet);
   // Answers are collected by the UDP thread for the whole window.
-  auto r = echo_.sleepUntil(Clock::now() + seconds(PACKET_TIMEOUT), tok);
+  auto r = echo_.sleepUntil(Clock::now() + seconds(bcst_window_), tok);
   if (r != EchoPool::WaitResult::TimedOut) waitFailed(r);
   return bcst_.get(cmd);
 }

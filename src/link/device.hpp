@@ -147,6 +147,9 @@ class Device {
   void registerLink(Link& link);
   void say(bool verbose, const std::string& text) const;
 
+  // How long broadcastPacket collects answers, in seconds.
+  double bcst_window_ = PACKET_TIMEOUT;
+
  private:
   void recvLoop(Link& link);
   void throwIfClosed() const;

@@ -1,5 +1,7 @@
 // The device classes: how each kind of link connects, disconnects and closes.
 #include <chrono>
+#include <cmath>
+#include <cstdlib>
 
 #include "link/device.hpp"
 #include "link/error.hpp"
@@ -168,6 +170,12 @@ void WifiDevice::close(bool verbose) {
 BroadcastDevice::BroadcastDevice(bool verbose, std::string class_name)
     : Device(std::move(class_name)), udp_client_(std::make_shared<UDPClient>()) {
   setupLink(udp_, "recv_udp_thread", UDP_PKT_LENGTH_MAX, Link::Failures::Silent);
+  // A shorter answer window, e.g. for tests against a simulator on loopback.
+  if (const char* w = std::getenv("PYORV_BROADCAST_WINDOW")) {
+    char* end = nullptr;
+    const double s = std::strtod(w, &end);
+    if (end != w && *end == '\0' && s > 0 && std::isfinite(s)) bcst_window_ = s;
+  }
   udp_.setClient(udp_client_);
   registerLink(udp_);
   startThread(udp_);

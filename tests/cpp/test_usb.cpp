@@ -168,42 +168,24 @@ int usbErrorCode(const std::string& serial) {
   return 0;
 }
 
-TEST_F(UsbClientTest, DefaultOpensTheFirstDeviceOfTheFamily) {
+TEST_F(UsbClientTest, OpensTheFirstOfTheFamilyOrItsSerialNumberInBackendOrder) {
+  EXPECT_EQ(usbErrorCode("default"), errUSBConnection);
   backend_->add("FOREIGN", "Other", 0x1234);
   auto first = backend_->add("SN-A", "Trellis");
   auto second = backend_->add("SN-B", "Kestrel");
-  USBClient client("default");
-  EXPECT_EQ(client.takeSerialNumber(), "SN-A");
-  EXPECT_EQ(client.takeProductName(), "Trellis");
-  EXPECT_EQ(first->opens, 1);
-  EXPECT_EQ(second->opens, 0);
-}
-
-TEST_F(UsbClientTest, ASerialNumberPicksItsDevice) {
-  auto first = backend_->add("SN-A", "Trellis");
-  auto second = backend_->add("SN-B", "Kestrel");
-  USBClient client("SN-B");
-  EXPECT_EQ(client.takeSerialNumber(), "SN-B");
-  EXPECT_EQ(first->opens, 0);
-  EXPECT_EQ(second->opens, 1);
-}
-
-TEST_F(UsbClientTest, AnUnknownSerialNumberFails) {
-  EXPECT_EQ(usbErrorCode("default"), errUSBConnection);
-  backend_->add("SN-A", "Trellis");
-  backend_->add("SN-B", "Kestrel");
-  backend_->add("SN-C", "Other", 0x1234);
-  EXPECT_EQ(usbErrorCode("SN-C"), errUSBConnection);  // right serial, wrong family
-  EXPECT_EQ(usbErrorCode("SN-X"), -8001);
-}
-
-TEST_F(UsbClientTest, ExtraBackendsAreSearchedInRegistrationOrder) {
   auto later = std::make_shared<FakeBackend>();
   later->add("SN-L", "Later");
   usb::addBackend(later);
-  backend_->add("SN-E", "Earlier");
-  EXPECT_EQ(USBClient("default").takeSerialNumber(), "SN-E");
+  {
+    USBClient client("default");
+    EXPECT_EQ(client.takeSerialNumber(), "SN-A");
+    EXPECT_EQ(client.takeProductName(), "Trellis");
+  }
+  EXPECT_EQ(USBClient("SN-B").takeSerialNumber(), "SN-B");
   EXPECT_EQ(USBClient("SN-L").takeSerialNumber(), "SN-L");
+  EXPECT_EQ((std::pair{first->opens, second->opens}), (std::pair{1, 1}));
+  EXPECT_EQ(usbErrorCode("FOREIGN"), errUSBConnection);  // right serial, wrong family
+  EXPECT_EQ(usbErrorCode("SN-X"), -8001);
   usb::removeBackend(later.get());
 }
 
@@ -246,29 +228,22 @@ INSTANTIATE_TEST_SUITE_P(Lengths, UsbPadding,
                                            PaddingCase{63, 64}, PaddingCase{64, 64},
                                            PaddingCase{70, 70}, PaddingCase{300, 300}));
 
-TEST_F(UsbClientTest, ReadsOneTransferWithAOneMillisecondTimeout) {
+TEST_F(UsbClientTest, ReadsOneTransferWithAOneMillisecondTimeoutAndSplitsIt) {
   auto dev = backend_->add("SN-A", "Trellis");
   USBClient client("default");
-  EXPECT_THROW(client.recvPacket(USB_PKT_SIZE), usb::Timeout);
-  dev->to_host.push_back(Bytes{1, 2, 3});
-  EXPECT_EQ(client.recvPacket(USB_PKT_SIZE), (Bytes{1, 2, 3}));
-  ASSERT_EQ(dev->reads.size(), 2u);
-  for (auto [length, timeout] : dev->reads) {
-    EXPECT_EQ(length, USB_PKT_SIZE);
-    EXPECT_EQ(timeout, 1u);
-  }
-}
-
-TEST_F(UsbClientTest, SplitsAPaddedTransfer) {
-  auto dev = backend_->add("SN-A", "Trellis");
-  USBClient client("default");
+  EXPECT_THROW(client.recvAndSplitPacket(USB_PKT_SIZE), usb::Timeout);  // an idle link
   Bytes transfer = preparePacket(GET_DRIVER_INFO, Bytes{0});
   transfer.resize(USB_PKT_SIZE, 0);
   dev->to_host.push_back(transfer);
   EXPECT_EQ(client.recvAndSplitPacket(USB_PKT_SIZE),
             (std::vector<RawPacket>{{GET_DRIVER_INFO, Bytes{0}}}));
-  // An idle link: the timeout leaves recvAndSplitPacket unchanged.
-  EXPECT_THROW(client.recvAndSplitPacket(USB_PKT_SIZE), usb::Timeout);
+  dev->to_host.push_back(Bytes{1, 2, 3});
+  EXPECT_EQ(client.recvPacket(USB_PKT_SIZE), (Bytes{1, 2, 3}));
+  ASSERT_EQ(dev->reads.size(), 3u);
+  for (auto [length, timeout] : dev->reads) {
+    EXPECT_EQ(length, USB_PKT_SIZE);
+    EXPECT_EQ(timeout, 1u);
+  }
 }
 
 TEST_F(UsbClientTest, ListsEveryDeviceOfTheFamily) {

@@ -5,8 +5,12 @@ import time
 
 import pytest
 
-import pyorv
-import pyorv.sim as sim
+# Discovery collects answers for a window; the simulator answers at once, so a
+# short one keeps the suite fast (test_discovery checks the default window).
+os.environ.setdefault("PYORV_BROADCAST_WINDOW", "0.3")
+
+import pyorv  # noqa: E402
+import pyorv.sim as sim  # noqa: E402
 
 
 @pytest.fixture
@@ -14,6 +18,48 @@ def simulator():
     s = sim.Simulator()
     yield s
     s.stop()
+
+
+def connect(dev, sim_dev, verbose=False):
+    """Connects a driver object over its simulated device's link; returns the
+    text the connect message names."""
+    if sim_dev.link == sim.Link.Usb:
+        dev.connect(sim_dev.serial, verbose=verbose)
+        return sim_dev.serial
+    if sim_dev.link == sim.Link.Wifi:
+        assert dev.connect(sim_dev.host, port1=sim_dev.data_port, port2=sim_dev.cmd_port,
+                           verbose=verbose) is True
+    else:
+        dev.connect(sim_dev.host, sim_dev.cmd_port, verbose=verbose)
+    return sim_dev.host
+
+
+@pytest.fixture
+def pair(simulator):
+    """pair(model, **config): a connected model object and its simulated device."""
+    made = []
+
+    def make(model, **config):
+        config.setdefault("serial", f"SIMD{len(made):04d}")
+        sim_dev = simulator.add_device(sim.DeviceConfig(model=model, **config))
+        dev = getattr(pyorv, model)(verbose=False)
+        connect(dev, sim_dev)
+        made.append(dev)
+        return dev, sim_dev
+
+    yield make
+    for dev in made:
+        dev.close(verbose=False)
+
+
+@pytest.fixture
+def trellis(pair):
+    return pair("Trellis", mac="02:4F:52:56:00:0A", gateway="127.0.0.254")
+
+
+@pytest.fixture
+def heron(pair):
+    return pair("HeronAin")
 
 
 @pytest.fixture
@@ -31,6 +77,20 @@ def eth(eth_sim):
     yield dev
     dev.disconnect(verbose=False)
     dev.close(verbose=False)
+
+
+def wire(sim_dev):
+    """(command, data) of every packet the simulated device received."""
+    return [(p.cmd, bytes(p.data)) for p in sim_dev.packets()]
+
+
+def last(sim_dev):
+    return wire(sim_dev)[-1]
+
+
+def answer(data):
+    """A per-device handler that answers every request with `data`."""
+    return lambda ctx, req: ctx.reply(bytes(data))
 
 
 def sent(sim_dev, cmd):

@@ -8,7 +8,7 @@ import asyncio
 import pytest
 
 import pyorv
-import pyorv.sim as sim
+from conftest import answer, wire
 
 SET_AP, GET_RSSI, SET_WIFI_CONFIGURATION, GET_WIFI_CONFIGURATION = 112, 113, 116, 117
 SET_WIFI_BANDWIDTH, GET_WIFI_BANDWIDTH, GET_GATEWAY, SET_GATEWAY = 118, 119, 124, 125
@@ -16,36 +16,8 @@ READ_AND_GET_DI, SET_AND_WRITE_DO = 233, 234
 GET_IP, SET_IP, GET_MAC, SET_MAC = 243, 244, 245, 246
 
 
-def wire(sim_dev):
-    return [(p.cmd, bytes(p.data)) for p in sim_dev.packets()]
-
-
-def answer(data):
-    return lambda ctx, req: ctx.reply(bytes(data))
-
-
 def run(coro):
     return asyncio.run(coro)
-
-
-@pytest.fixture
-def trellis(simulator):
-    s = simulator.add_device(sim.DeviceConfig(model="Trellis", serial="SIMNET01",
-                                              mac="02:4F:52:56:00:0A", gateway="127.0.0.254"))
-    dev = pyorv.Trellis(verbose=False)
-    dev.connect(s.host, s.cmd_port, verbose=False)
-    yield dev, s
-    dev.close(verbose=False)
-
-
-@pytest.fixture
-def heron(simulator):
-    s = simulator.add_device(sim.DeviceConfig(model="HeronAin", link=sim.Link.Wifi,
-                                              serial="SIMNET02"))
-    dev = pyorv.HeronAin(verbose=False)
-    dev.connect(s.host, port1=s.data_port, port2=s.cmd_port, verbose=False)
-    yield dev, s
-    dev.close(verbose=False)
 
 
 # ---- addressing --------------------------------------------------------------------------
@@ -160,7 +132,6 @@ def test_wifi_model_has_the_network_settings_too(heron):
     dev, s = heron
     assert dev.Net_getIPAddrAndSubmask() == ["127.0.0.1", "255.255.255.0"]
     assert dev.Net_getMACAddr() == "2:4f:52:56:0:1"
-    assert isinstance(dev, pyorv.NetworkModule) and isinstance(dev, pyorv.WifiModule)
 
 
 # ---- Wi-Fi: LEDs and power lines ---------------------------------------------------------
@@ -271,9 +242,3 @@ def test_simulated_rssi_and_access_point(heron):
     assert wire(s)[-1] == (SET_AP, b"")
     s.set_handler(SET_AP, answer([71]))
     assert run(dev.Wifi_setAP_async()) == pyorv.errFirmwareTCP
-
-
-def test_wifi_operations_only_on_wifi_models(trellis):
-    dev, _ = trellis
-    assert not isinstance(dev, pyorv.WifiModule)
-    assert not hasattr(dev, "Wifi_readRSSI") and not hasattr(dev, "Wifi_setBlueLED")

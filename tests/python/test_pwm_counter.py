@@ -9,41 +9,22 @@ import time
 import pytest
 
 import pyorv
-import pyorv.sim as sim
+from conftest import last
 
 OPEN_PWM, START_PWM, STOP_PWM, CLOSE_PWM, SET_PWM_FREQUENCY, SET_PWM_DUTY_CYCLE = range(80, 86)
 PULSE_OPEN, PULSE_START, PULSE_READ, PULSE_STOP, PULSE_CLOSE = range(4128, 4133)
 
 
 @pytest.fixture
-def plover(simulator):
+def plover(pair):
     """PloverDio over the virtual USB backend: two PWM channels, two counters."""
-    s = simulator.add_device(sim.DeviceConfig(model="PloverDio", serial="SIMPWM01"))
-    dev = pyorv.PloverDio(verbose=False)
-    dev.connect(s.serial, verbose=False)
-    yield dev, s
-    dev.close(verbose=False)
+    return pair("PloverDio")
 
 
 @pytest.fixture
-def kestrel(simulator):
+def kestrel(pair):
     """KestrelDio over Ethernet: PWM without counters."""
-    s = simulator.add_device(sim.DeviceConfig(model="KestrelDio", serial="SIMPWM02"))
-    dev = pyorv.KestrelDio(verbose=False)
-    dev.connect(s.host, s.cmd_port, verbose=False)
-    yield dev, s
-    dev.close(verbose=False)
-
-
-def last(s):
-    p = s.packets()[-1]
-    return p.cmd, bytes(p.data)
-
-
-def test_models_have_the_modules_of_their_row():
-    assert issubclass(pyorv.KestrelDio, pyorv.PWMModule)
-    assert not issubclass(pyorv.KestrelDio, pyorv.CounterModule)
-    assert issubclass(pyorv.PloverSink, pyorv.CounterModule)
+    return pair("KestrelDio")
 
 
 @pytest.mark.parametrize("call", [

@@ -7,35 +7,20 @@ import struct
 import pytest
 
 import pyorv
-import pyorv.sim as sim
+from conftest import wire
 
 RELAY_READ, POT_READ, POT_WRITE_ALL_CS = 6912, 8513, 8515
 SET_AND_WRITE_DO, TOGGLE_AND_WRITE_DO = 234, 238
 
 
-def make(simulator, model, serial):
-    s = simulator.add_device(sim.DeviceConfig(model=model, serial=serial))
-    dev = getattr(pyorv, model)(verbose=False)
-    dev.connect(s.host, s.cmd_port, verbose=False)
-    return dev, s
+@pytest.fixture
+def relay(pair):
+    return pair("KestrelRelay")
 
 
 @pytest.fixture
-def relay(simulator):
-    dev, s = make(simulator, "KestrelRelay", "SIMREL01")
-    yield dev, s
-    dev.close(verbose=False)
-
-
-@pytest.fixture
-def res(simulator):
-    dev, s = make(simulator, "KestrelRes", "SIMRES01")
-    yield dev, s
-    dev.close(verbose=False)
-
-
-def wire(s):
-    return [(p.cmd, bytes(p.data)) for p in s.packets()]
+def res(pair):
+    return pair("KestrelRes")
 
 
 # ---- relays ------------------------------------------------------------------------------
