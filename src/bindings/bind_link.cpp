@@ -97,15 +97,16 @@ void bindLink(py::module_& m) {
   py::class_<Client, std::shared_ptr<Client>>(m, "Client")
       .def_property_readonly("stream", [](Client& c) { return toPy(c.splitter().stream()); })
       .def_property_readonly("last_index", [](Client& c) { return c.splitter().lastIndex(); })
-      .def("_splitPacket",
-           [](Client& c, const Value& more) {
-             // Appends bytes to the stream and splits it (the receive thread's step).
-             py::list out;
-             for (auto& p : c.splitter().feed(more.toBytes()))
-               out.append(py::make_tuple(p.cmd, toPy(p.data)));
-             return out;
-           },
-           py::arg("data") = Bytes{})
+      .def(
+          "_splitPacket",
+          [](Client& c, const Value& more) {
+            // Appends bytes to the stream and splits it (the receive thread's step).
+            py::list out;
+            for (auto& p : c.splitter().feed(more.toBytes()))
+              out.append(py::make_tuple(p.cmd, toPy(p.data)));
+            return out;
+          },
+          py::arg("data") = Bytes{})
       .def("recvAndSplitPacket",
            [](Client& c, size_t length) {
              std::vector<RawPacket> pk;
@@ -181,7 +182,8 @@ void bindLink(py::module_& m) {
       .def_property_readonly("data_pool_echo",
                              [](Device& d) {
                                py::dict out;
-                               for (auto& [k, v] : d.echoPool().snapshot()) out[py::int_(k)] = toPy(v);
+                               for (auto& [k, v] : d.echoPool().snapshot())
+                                 out[py::int_(k)] = toPy(v);
                                return out;
                              })
       .def_property_readonly("data_pool_strm",
@@ -191,26 +193,31 @@ void bindLink(py::module_& m) {
                                  out[streamKeyToPy(k)] = d.streamPool().get(k);
                                return out;
                              })
-      .def("_streamQueue",
-           [](Device& d, py::handle key) { return d.streamPool().get(streamKeyFromPy(key)); },
-           py::arg("key"))
-      .def("_broadcastAnswers",
-           [](Device& d, int cmd) { return toPySet(d.bcstPool().get(cmd)); }, py::arg("cmd"))
-      .def("_checkCommandType",
-           [](Device&, int cmd, const Value& data) {
-             Bytes b = data.toBytes();
-             return cmdTypeWord(Device::checkCommandType(cmd, b));
-           },
-           py::arg("cmd"), py::arg("data"))
-      .def("_putToDataPool",
-           [](Device& d, int cmd, const Value& data) { d.putToDataPool(cmd, data.toBytes()); },
-           py::arg("cmd"), py::arg("data"))
-      .def("_preparePacket",
-           [](Device&, int cmd, const Value& data_out) {
-             auto ints = data_out.toIntList();
-             return flatList(preparePacket(cmd, ints));
-           },
-           py::arg("cmd"), py::arg("data_out") = Value::list({}))
+      .def(
+          "_streamQueue",
+          [](Device& d, py::handle key) { return d.streamPool().get(streamKeyFromPy(key)); },
+          py::arg("key"))
+      .def(
+          "_broadcastAnswers", [](Device& d, int cmd) { return toPySet(d.bcstPool().get(cmd)); },
+          py::arg("cmd"))
+      .def(
+          "_checkCommandType",
+          [](Device&, int cmd, const Value& data) {
+            Bytes b = data.toBytes();
+            return cmdTypeWord(Device::checkCommandType(cmd, b));
+          },
+          py::arg("cmd"), py::arg("data"))
+      .def(
+          "_putToDataPool",
+          [](Device& d, int cmd, const Value& data) { d.putToDataPool(cmd, data.toBytes()); },
+          py::arg("cmd"), py::arg("data"))
+      .def(
+          "_preparePacket",
+          [](Device&, int cmd, const Value& data_out) {
+            auto ints = data_out.toIntList();
+            return flatList(preparePacket(cmd, ints));
+          },
+          py::arg("cmd"), py::arg("data_out") = Value::list({}))
       .def("_aliveThreads", &Device::aliveThreads)
       .def("__enter__", [](py::object self) { return self; })
       .def("__exit__",
@@ -219,121 +226,133 @@ void bindLink(py::module_& m) {
              d.close();
            })
       // The exchange, blocking.
-      .def("_sendPacketWithoutReply",
-           [](Device& d, int cmd, const Value& data_out) {
-             Bytes b = data_out.toBytes();
-             py::gil_scoped_release r;
-             d.sendPacketWithoutReply(cmd, b);
-           },
-           py::arg("cmd"), py::arg("data_out"))
-      .def("_echoPacket",
-           [](Device& d, int cmd, const Value& data_out, double timeout) {
-             Bytes b = data_out.toBytes(), out;
-             {
-               py::gil_scoped_release r;
-               out = d.echoPacket(cmd, b, timeout);
-             }
-             return toPy(out);
-           },
-           py::arg("cmd"), py::arg("data_out"), py::arg("timeout"))
-      .def("_echoPacketWithRetry",
-           [](Device& d, int cmd, const Value& data_out, double timeout) {
-             Bytes b = data_out.toBytes(), out;
-             {
-               py::gil_scoped_release r;
-               out = d.echoPacketWithRetry(cmd, b, timeout);
-             }
-             return toPy(out);
-           },
-           py::arg("cmd"), py::arg("data_out"), py::arg("timeout") = PACKET_TIMEOUT)
-      .def("_getReplyFromPool",
-           [](Device& d, int64_t cmd, double timeout) {
-             Bytes out;
-             {
-               py::gil_scoped_release r;
-               out = d.getReplyFromPool(cmd, timeout);
-             }
-             return toPy(out);
-           },
-           py::arg("cmd"), py::arg("timeout"))
-      .def("_broadcastPacket",
-           [](Device& d, int cmd, const Value& data_out) {
-             Bytes b = data_out.toBytes();
-             return toPySet(noGil([&] { return d.broadcastPacket(cmd, b); }));
-           },
-           py::arg("cmd"), py::arg("data_out"))
-      .def("_getStreamingFromPool",
-           [](Device& d, StreamQueue& q, int64_t num_samples, double delay) {
-             Bytes out;
-             {
-               py::gil_scoped_release r;
-               out = d.getStreamingFromPool(q, num_samples, delay);
-             }
-             return flatList(out);
-           },
-           py::arg("queue_"), py::arg("num_samples"), py::arg("delay"))
+      .def(
+          "_sendPacketWithoutReply",
+          [](Device& d, int cmd, const Value& data_out) {
+            Bytes b = data_out.toBytes();
+            py::gil_scoped_release r;
+            d.sendPacketWithoutReply(cmd, b);
+          },
+          py::arg("cmd"), py::arg("data_out"))
+      .def(
+          "_echoPacket",
+          [](Device& d, int cmd, const Value& data_out, double timeout) {
+            Bytes b = data_out.toBytes(), out;
+            {
+              py::gil_scoped_release r;
+              out = d.echoPacket(cmd, b, timeout);
+            }
+            return toPy(out);
+          },
+          py::arg("cmd"), py::arg("data_out"), py::arg("timeout"))
+      .def(
+          "_echoPacketWithRetry",
+          [](Device& d, int cmd, const Value& data_out, double timeout) {
+            Bytes b = data_out.toBytes(), out;
+            {
+              py::gil_scoped_release r;
+              out = d.echoPacketWithRetry(cmd, b, timeout);
+            }
+            return toPy(out);
+          },
+          py::arg("cmd"), py::arg("data_out"), py::arg("timeout") = PACKET_TIMEOUT)
+      .def(
+          "_getReplyFromPool",
+          [](Device& d, int64_t cmd, double timeout) {
+            Bytes out;
+            {
+              py::gil_scoped_release r;
+              out = d.getReplyFromPool(cmd, timeout);
+            }
+            return toPy(out);
+          },
+          py::arg("cmd"), py::arg("timeout"))
+      .def(
+          "_broadcastPacket",
+          [](Device& d, int cmd, const Value& data_out) {
+            Bytes b = data_out.toBytes();
+            return toPySet(noGil([&] { return d.broadcastPacket(cmd, b); }));
+          },
+          py::arg("cmd"), py::arg("data_out"))
+      .def(
+          "_getStreamingFromPool",
+          [](Device& d, StreamQueue& q, int64_t num_samples, double delay) {
+            Bytes out;
+            {
+              py::gil_scoped_release r;
+              out = d.getStreamingFromPool(q, num_samples, delay);
+            }
+            return flatList(out);
+          },
+          py::arg("queue_"), py::arg("num_samples"), py::arg("delay"))
       // The exchange, awaitable.
-      .def("_sendPacketWithoutReply_async",
-           [](py::object self, int cmd, const Value& data_out) {
-             Bytes b = data_out.toBytes();
-             return immediateCoroutine([self, cmd, b]() -> py::object {
-               Device& d = self.cast<Device&>();
-               {
-                 py::gil_scoped_release r;
-                 d.sendPacketWithoutReply(cmd, b);
-               }
-               return py::none();
-             });
-           },
-           py::arg("cmd"), py::arg("data_out"))
-      .def("_echoPacket_async",
-           [](py::object self, int cmd, const Value& data_out, double timeout) {
-             Device& d = self.cast<Device&>();
-             return makeCoroutine(self, [&d, cmd, b = data_out.toBytes(), timeout](CancelToken* tok) {
-               auto out = d.echoPacketAsync(cmd, b, timeout, tok);
-               return std::function<py::object()>([out] {
-                 return out ? py::object(toPy(*out)) : py::object(py::none());
-               });
-             });
-           },
-           py::arg("cmd"), py::arg("data_out"), py::arg("timeout") = PACKET_TIMEOUT)
-      .def("_echoPacketWithRetry_async",
-           [](py::object self, int cmd, const Value& data_out, int num_retries, double timeout) {
-             Device& d = self.cast<Device&>();
-             return makeCoroutine(
-                 self, [&d, cmd, b = data_out.toBytes(), num_retries, timeout](CancelToken* tok) {
-                   auto out = d.echoPacketWithRetryAsync(cmd, b, num_retries, timeout, tok);
-                   return std::function<py::object()>([out] { return py::object(toPy(out)); });
-                 });
-           },
-           py::arg("cmd"), py::arg("data_out"), py::arg("num_retries") = NUM_RETRIES,
-           py::arg("timeout") = PACKET_TIMEOUT)
-      .def("_getReplyFromPool_async",
-           [](py::object self, int64_t cmd) {
-             Device& d = self.cast<Device&>();
-             return makeCoroutine(self, [&d, cmd](CancelToken* tok) {
-               auto out = d.getReplyFromPoolAsync(cmd, tok);
-               return std::function<py::object()>([out] { return py::object(toPy(out)); });
-             });
-           },
-           py::arg("cmd"))
-      .def("_broadcastPacket_async",
-           [](py::object self, int cmd, const Value& data_out) {
-             Device& d = self.cast<Device&>();
-             return makeCoroutine(self, [&d, cmd, b = data_out.toBytes()](CancelToken* tok) {
-               auto out = d.broadcastPacket(cmd, b, tok);
-               return std::function<py::object()>([out] { return py::object(toPySet(out)); });
-             });
-           },
-           py::arg("cmd"), py::arg("data_out"))
-      .def("_getStreamingFromPool_async",
-           [](py::object self, std::shared_ptr<StreamQueue> q, int64_t num_samples,
-              double /*delay*/) {
-             return immediateCoroutine([self, q, num_samples]() -> py::object {
-               return flatList(self.cast<Device&>().getStreamingFromPoolAsync(*q, num_samples));
-             });
-           },
-           py::arg("queue_"), py::arg("num_samples"), py::arg("delay"));
+      .def(
+          "_sendPacketWithoutReply_async",
+          [](py::object self, int cmd, const Value& data_out) {
+            Bytes b = data_out.toBytes();
+            return immediateCoroutine([self, cmd, b]() -> py::object {
+              Device& d = self.cast<Device&>();
+              {
+                py::gil_scoped_release r;
+                d.sendPacketWithoutReply(cmd, b);
+              }
+              return py::none();
+            });
+          },
+          py::arg("cmd"), py::arg("data_out"))
+      .def(
+          "_echoPacket_async",
+          [](py::object self, int cmd, const Value& data_out, double timeout) {
+            Device& d = self.cast<Device&>();
+            return makeCoroutine(
+                self, [&d, cmd, b = data_out.toBytes(), timeout](CancelToken* tok) {
+                  auto out = d.echoPacketAsync(cmd, b, timeout, tok);
+                  return std::function<py::object()>(
+                      [out] { return out ? py::object(toPy(*out)) : py::object(py::none()); });
+                });
+          },
+          py::arg("cmd"), py::arg("data_out"), py::arg("timeout") = PACKET_TIMEOUT)
+      .def(
+          "_echoPacketWithRetry_async",
+          [](py::object self, int cmd, const Value& data_out, int num_retries, double timeout) {
+            Device& d = self.cast<Device&>();
+            return makeCoroutine(
+                self, [&d, cmd, b = data_out.toBytes(), num_retries, timeout](CancelToken* tok) {
+                  auto out = d.echoPacketWithRetryAsync(cmd, b, num_retries, timeout, tok);
+                  return std::function<py::object()>([out] { return py::object(toPy(out)); });
+                });
+          },
+          py::arg("cmd"), py::arg("data_out"), py::arg("num_retries") = NUM_RETRIES,
+          py::arg("timeout") = PACKET_TIMEOUT)
+      .def(
+          "_getReplyFromPool_async",
+          [](py::object self, int64_t cmd) {
+            Device& d = self.cast<Device&>();
+            return makeCoroutine(self, [&d, cmd](CancelToken* tok) {
+              auto out = d.getReplyFromPoolAsync(cmd, tok);
+              return std::function<py::object()>([out] { return py::object(toPy(out)); });
+            });
+          },
+          py::arg("cmd"))
+      .def(
+          "_broadcastPacket_async",
+          [](py::object self, int cmd, const Value& data_out) {
+            Device& d = self.cast<Device&>();
+            return makeCoroutine(self, [&d, cmd, b = data_out.toBytes()](CancelToken* tok) {
+              auto out = d.broadcastPacket(cmd, b, tok);
+              return std::function<py::object()>([out] { return py::object(toPySet(out)); });
+            });
+          },
+          py::arg("cmd"), py::arg("data_out"))
+      .def(
+          "_getStreamingFromPool_async",
+          [](py::object self, std::shared_ptr<StreamQueue> q, int64_t num_samples,
+             double /*delay*/) {
+            return immediateCoroutine([self, q, num_samples]() -> py::object {
+              return flatList(self.cast<Device&>().getStreamingFromPoolAsync(*q, num_samples));
+            });
+          },
+          py::arg("queue_"), py::arg("num_samples"), py::arg("delay"));
 
   bindDeviceClass<USBDevice, Device>(m, "USBDevice")
       .def("connect", &USBDevice::connect, py::arg("serial_num") = "default",

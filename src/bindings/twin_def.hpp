@@ -23,7 +23,7 @@
 namespace orv::py_bind {
 
 struct TwinOptions {
-  double timeout = 3;          // default of the blocking method's timeout
+  double timeout = 3;                // default of the blocking method's timeout
   const char* async_name = nullptr;  // when the twin's name is not name + "_async"
 };
 

@@ -65,7 +65,7 @@ inline constexpr int CHECK_MAC_AND_SET_IP = 253;
 inline constexpr int CHECK_MAC_AND_REBOOT = 254;
 
 inline constexpr std::array<int, 7> STREAMING_CMD_LIST = {
-    START_CAN,         START_UART_READING,      START_AI_STREAMING, START_AI_STREAMING_VARIABLE,
+    START_CAN,          START_UART_READING,      START_AI_STREAMING, START_AI_STREAMING_VARIABLE,
     START_AO_STREAMING, START_MOTION_MONITORING, AHRS_START};
 inline constexpr std::array<int, 3> BROADCAST_CMD_LIST = {GET_DEVICE_INFO, CHECK_MAC_AND_SET_IP,
                                                           CHECK_MAC_AND_REBOOT};

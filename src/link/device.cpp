@@ -100,7 +100,9 @@ void Device::putToDataPool(int cmd, const Bytes& data) {
       auto need = [&](size_t n) {
         if (data.size() < n) throw IndexError("index out of range: stream record too short");
       };
-      auto from = [&](size_t n) { return Bytes(data.begin() + std::min(n, data.size()), data.end()); };
+      auto from = [&](size_t n) {
+        return Bytes(data.begin() + std::min(n, data.size()), data.end());
+      };
       if (cmd == START_AI_STREAMING) {
         need(2);
         strm_.get(StreamKey::triple(cmd, data[0], data[1]))->push(from(2));
@@ -315,8 +317,8 @@ Bytes Device::getReplyFromPoolAsync(int64_t key, CancelToken* tok) {
   waitFailed(r);
 }
 
-Bytes Device::echoPacketWithRetryAsync(int cmd, std::span<const uint8_t> data_out,
-                                       int num_retries, double timeout, CancelToken* tok) {
+Bytes Device::echoPacketWithRetryAsync(int cmd, std::span<const uint8_t> data_out, int num_retries,
+                                       double timeout, CancelToken* tok) {
   std::optional<Bytes> value;
   int count = 0;
   while (!value && count < num_retries) {

@@ -12,8 +12,8 @@
 #pragma once
 
 #include <atomic>
-#include <map>
 #include <condition_variable>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -119,8 +119,7 @@ class Device {
   // ---- the exchange (awaitable flavour, run on a worker thread) ----
   // nullopt when the time ran out.
   std::optional<Bytes> echoPacketAsync(int cmd, std::span<const uint8_t> data_out,
-                                       double timeout = PACKET_TIMEOUT,
-                                       CancelToken* tok = nullptr);
+                                       double timeout = PACKET_TIMEOUT, CancelToken* tok = nullptr);
   Bytes getReplyFromPoolAsync(int64_t key, CancelToken* tok = nullptr);
   // Throws AsyncTimeout when the last wait runs out.
   Bytes echoPacketWithRetryAsync(int cmd, std::span<const uint8_t> data_out,

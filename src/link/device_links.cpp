@@ -71,8 +71,7 @@ void USBDevice::close(bool verbose) {
 
 // ---- NetworkDevice ---------------------------------------------------------------
 
-NetworkDevice::NetworkDevice(bool verbose, std::string class_name)
-    : Device(std::move(class_name)) {
+NetworkDevice::NetworkDevice(bool verbose, std::string class_name) : Device(std::move(class_name)) {
   setupLink(cmd_, "recv_cmd_thread", TCP_PKT_LENGTH_MAX, Link::Failures::Silent);
   cmd_.setClient(std::make_shared<TCPClient>());
   registerLink(cmd_);

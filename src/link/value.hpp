@@ -68,7 +68,7 @@ class Value {
   // Accessors throw std::bad_variant_access-free orv::Error (TypeError kind)
   // on a wrong kind; see value.cpp.
   bool asBool() const;
-  int64_t asInt() const;  // bool gives 0 or 1; float is refused
+  int64_t asInt() const;   // bool gives 0 or 1; float is refused
   double asFloat() const;  // int and bool are widened
   const std::string& asText() const;
   const orv::Bytes& asBytes() const;

@@ -128,9 +128,11 @@ INSTANTIATE_TEST_SUITE_P(
         WireCase{"JunkAheadIsDropped", {0, 2, 0x0D, 0x0A, 2, 0, 1, 0x60, 0x0D, 0x0A}, {{0x60, {}}}},
         WireCase{"NegativeLengthNeverMatches", {2, 0xFF, 0xFF, 0x0D, 0x0A}, {}},
         WireCase{"NoStartByte", {0, 0, 1, 0x60, 0x0D, 0x0A}, {}},
-        WireCase{"EndMarkInsidePayload", pkt(GET_DRIVER_INFO, {1, 0x0D, 0x0A, 2}),
+        WireCase{"EndMarkInsidePayload",
+                 pkt(GET_DRIVER_INFO, {1, 0x0D, 0x0A, 2}),
                  {{GET_DRIVER_INFO, {1, 0x0D, 0x0A, 2}}}},
-        WireCase{"TwoPacketsInOneRead", cat({pkt(240, {1, 2}), pkt(AHRS_START, {9})}),
+        WireCase{"TwoPacketsInOneRead",
+                 cat({pkt(240, {1, 2}), pkt(AHRS_START, {9})}),
                  {{240, {1, 2}}, {AHRS_START, {9}}}},
         // A start byte in the payload agrees with the same end mark: the
         // packet's own, earlier, start byte wins ...

@@ -104,7 +104,8 @@ INSTANTIATE_TEST_SUITE_P(
     Link, StreamRouting,
     ::testing::Values(
         RouteCase{"ai", START_AI_STREAMING, {3, 1, 9, 8}, StreamKey::triple(183, 3, 1), {9, 8}},
-        RouteCase{"ai_var", START_AI_STREAMING_VARIABLE, {3, 1, 9}, StreamKey::triple(190, 0, 0), {9}},
+        RouteCase{
+            "ai_var", START_AI_STREAMING_VARIABLE, {3, 1, 9}, StreamKey::triple(190, 0, 0), {9}},
         RouteCase{"can", START_CAN, {1, 0, 5, 6}, StreamKey::one(49), {5, 6}},
         RouteCase{"ahrs", AHRS_START, {1, 5, 6}, StreamKey::one(9217), {5, 6}},
         RouteCase{"uart", START_UART_READING, {2, 0, 65}, StreamKey::pair(129, 2), {65}},
@@ -157,7 +158,7 @@ TEST(Errors, TableCodesMessagesAndFirmwareMap) {
   struct {
     int status;
     int code;
-  } cases[] = {{10, -7000}, {13, -7003}, {27, -7011}, {40, -7012}, {57, -7022},
+  } cases[] = {{10, -7000}, {13, -7003}, {27, -7011}, {40, -7012},  {57, -7022},
                {73, -7026}, {80, -7027}, {1, -7028},  {255, -7028}, {14, -7028}};
   for (auto c : cases) {
     try {

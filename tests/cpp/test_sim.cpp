@@ -146,6 +146,7 @@ class RawUdp {
     a.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     ::sendto(fd_, b.data(), b.size(), 0, reinterpret_cast<sockaddr*>(&a), sizeof a);
   }
+
  private:
   int fd_ = -1;
   int port_ = 0;
