@@ -147,7 +147,7 @@ py::object exceptionObject(std::exception_ptr p) {
     return builtin("IndexError")(e.what());
   } catch (const OSError& e) {
     return builtin("OSError")(e.err(), e.what());
-  } catch (const RuntimeError& e) {
+  } catch (const GateAlreadyOpen& e) {
     return builtin("RuntimeError")(e.what());
   } catch (const AsyncTimeout&) {
     return py::module_::import("asyncio").attr("TimeoutError")();

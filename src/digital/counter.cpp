@@ -14,7 +14,7 @@ bool CounterModule::_checkCounterChannel(const Value& channel) {
 namespace {
 int channelCommand(const Call& c, int cmd, const Value& channel) {
   CounterModule::_checkCounterChannel(channel);
-  return c.statusTail(cmd, Bytes{portByte(channel)}, 1);
+  return c.exchangeStatus(cmd, Bytes{portByte(channel)}, 1);
 }
 }  // namespace
 

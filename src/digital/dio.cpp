@@ -121,7 +121,7 @@ int DIOModule::_setDIOCurrent(const Call& c, const Value& port, const Value& mas
                               const Value& enabled, const Value& direction, const Value& state) {
   Bytes out{portByte(port)};
   for (const Value* w : {&mask, &enabled, &direction, &state}) appendWord(out, *w);
-  return c.statusTail(SET_DIO_CURRENT, out, 1);
+  return c.exchangeStatus(SET_DIO_CURRENT, out, 1);
 }
 
 int DIOModule::_closeDIOInPins(const Call& c, const Value& port, const Value& pin) {
@@ -152,7 +152,7 @@ PinStates DIOModule::_readAndGetDI(const Call& c, const Value& port, const Value
 }
 
 int DIOModule::_readDI(const Call& c, const Value& port) {
-  return c.statusTail(READ_DI, Bytes{portByte(port), 0}, 1);
+  return c.exchangeStatus(READ_DI, Bytes{portByte(port), 0}, 1);
 }
 
 PinStates DIOModule::_setAndWriteDO(const Call& c, const Value& port, const Value& mask,
@@ -168,7 +168,7 @@ int DIOModule::_setDIOState(const Call& c, const Value& port, const Value& mask,
   Bytes out{portByte(port)};
   appendWord(out, mask);
   appendWord(out, state);
-  return c.statusTail(SET_DIO_STATE, out, 1);
+  return c.exchangeStatus(SET_DIO_STATE, out, 1);
 }
 
 PinStates DIOModule::_toggleAndWriteDO(const Call& c, const Value& port, const Value& mask) {
@@ -182,11 +182,11 @@ int DIOModule::_toggleDIODirection(const Call& c, const Value& port, const Value
   Bytes out{portByte(port)};
   appendWord(out, mask);
   appendWord(out, state);
-  return c.statusTail(TOGGLE_DIO_DIR, out, 1);
+  return c.exchangeStatus(TOGGLE_DIO_DIR, out, 1);
 }
 
 int DIOModule::_writeDO(const Call& c, const Value& port) {
-  return c.statusTail(WRITE_DO, Bytes{portByte(port), 0}, 1);
+  return c.exchangeStatus(WRITE_DO, Bytes{portByte(port), 0}, 1);
 }
 
 // ---------------------------------------------------------------------------
@@ -349,22 +349,22 @@ int DIOModule::DIO_saveStartup(const Call& c, const Value& port, const Value& en
                                const Value& direction, const Value& state) {
   Bytes out{portByte(port)};
   for (const Value* w : {&enabled, &direction, &state}) appendWord(out, *w);
-  return c.statusTail(SAVE_DIO_STARTUP, out, 1);
+  return c.exchangeStatus(SAVE_DIO_STARTUP, out, 1);
 }
 
 int DIOModule::DIO_setPortIdle(const Call& c, const Value& port) {
   _checkDOPort(port);  // a port that is only an input can't be set idle
-  return c.statusTail(SET_SLOT_IDLE, Bytes{portByte(port), 0}, 1);
+  return c.exchangeStatus(SET_SLOT_IDLE, Bytes{portByte(port), 0}, 1);
 }
 
 int DIOModule::DIO_setPortDI(const Call& c, const Value& port) {
   _checkDIPort(port);
-  return c.statusTail(SET_SLOT_DI, Bytes{portByte(port), 0}, 1);
+  return c.exchangeStatus(SET_SLOT_DI, Bytes{portByte(port), 0}, 1);
 }
 
 int DIOModule::DIO_setPortDO(const Call& c, const Value& port) {
   _checkDOPort(port);
-  return c.statusTail(SET_SLOT_DO, Bytes{portByte(port), 0}, 1);
+  return c.exchangeStatus(SET_SLOT_DO, Bytes{portByte(port), 0}, 1);
 }
 
 }  // namespace orv

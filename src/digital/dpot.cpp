@@ -42,7 +42,7 @@ int DPOTModule::DPOT_writeAllChannel(const Call& c, const Value& port,
   _checkDPOTChannelAmount(resistance_ratio);
   Bytes out{portByte(port)};
   for (const Value& r : resistance_ratio.asList()) appendF32(out, r);
-  return c.statusTail(POT_WRITE_ALL_CS, out, 1);
+  return c.exchangeStatus(POT_WRITE_ALL_CS, out, 1);
 }
 
 }  // namespace orv

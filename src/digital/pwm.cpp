@@ -14,14 +14,14 @@ bool PWMModule::_checkPWMChannel(const Value& channel) {
 namespace {
 int channelCommand(const Call& c, int cmd, const Value& channel) {
   PWMModule::_checkPWMChannel(channel);
-  return c.statusTail(cmd, Bytes{portByte(channel)}, 1);
+  return c.exchangeStatus(cmd, Bytes{portByte(channel)}, 1);
 }
 
 int channelFloatCommand(const Call& c, int cmd, const Value& channel, const Value& x) {
   PWMModule::_checkPWMChannel(channel);
   Bytes out{portByte(channel)};
   appendF32(out, x);  // a non-number fails here, before anything is sent
-  return c.statusTail(cmd, out, 1);
+  return c.exchangeStatus(cmd, out, 1);
 }
 }  // namespace
 

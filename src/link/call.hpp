@@ -52,7 +52,7 @@ class Call {
   // The status tail: the status byte at `offset` of the reply, 0 on success,
   // the negative code of the firmware error otherwise.  A reply too short to
   // hold the status is a ReplyFormatError.
-  int statusTail(int cmd, std::span<const uint8_t> data_out, size_t offset) const {
+  int exchangeStatus(int cmd, std::span<const uint8_t> data_out, size_t offset) const {
     const Bytes data_in = exchange(cmd, data_out);
     if (data_in.size() <= offset)
       raise(ErrorId::ReplyFormatError, "The reply of command " + std::to_string(cmd) +

@@ -26,7 +26,7 @@ void Gate::close() {
 void Gate::open() {
   {
     std::lock_guard lk(m_);
-    if (open_) throw RuntimeError("release unlocked lock");
+    if (open_) throw GateAlreadyOpen("release unlocked lock");
     open_ = true;
   }
   cv_.notify_all();
@@ -133,7 +133,7 @@ void Device::putToDataPool(int cmd, const Bytes& data) {
 
 // ---- Device: threads -----------------------------------------------------------
 
-void Device::say(bool verbose, const std::string& text) const {
+void Device::announce(bool verbose, const std::string& text) const {
   if (verbose) report::print(text);
 }
 
@@ -157,7 +157,7 @@ void Device::recvLoop(Link& link) {
     try {
       if (!client) {
         // The transport is gone: the link was dropped under the thread.
-        if (link.failures == Link::Failures::ReportUsb && !killed_.load())
+        if (link.failures == Link::Failures::Print && !killed_.load())
           report::print("AttributeError: the USB link has no client");
         pause = true;
       } else {
@@ -171,7 +171,7 @@ void Device::recvLoop(Link& link) {
             try {
               putToDataPool(p.cmd, p.data);
             } catch (const std::exception& e) {
-              if (link.failures == Link::Failures::ReportUsb) report::genericError(e);
+              if (link.failures == Link::Failures::Print) report::genericError(e);
             }
           }
         }
@@ -179,7 +179,7 @@ void Device::recvLoop(Link& link) {
     } catch (const usb::Timeout&) {
       // An idle USB link: the ordinary state, once per millisecond.
     } catch (const std::exception& e) {
-      if (link.failures == Link::Failures::ReportUsb && !killed_.load()) report::genericError(e);
+      if (link.failures == Link::Failures::Print && !killed_.load()) report::genericError(e);
       pause = true;
     }
     // A dead link must not spin a core; the pause never delays a live one.

@@ -37,7 +37,7 @@ class Gate {
  public:
   Gate() = default;
   void close();  // acquire: the gate is closed afterwards
-  void open();   // release: throws orv::RuntimeError if already open
+  void open();   // release: throws GateAlreadyOpen if already open (the host sees RuntimeError)
   void forceOpen();
   bool isOpen() const;
   // Waits while the gate is closed; returns at once once `stop` is set.
@@ -49,16 +49,16 @@ class Gate {
   bool open_ = false;
 };
 
-class RuntimeError : public std::runtime_error {
+class GateAlreadyOpen : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
 // One link of a device: transport, status, gate and receive thread.
 struct Link {
-  enum class Failures { ReportUsb, Silent };
+  enum class Failures { Print, Quiet };  // a USB link prints its read failures
   std::string thread_name;  // recv_cmd_thread, recv_data_thread, recv_udp_thread
   size_t read_size = 0;
-  Failures failures = Failures::Silent;
+  Failures failures = Failures::Quiet;
 
   std::shared_ptr<Client> client() const;
   void setClient(std::shared_ptr<Client> c);
@@ -144,7 +144,7 @@ class Device {
   // For destructors: ends and joins the links whatever their state.
   void stopLinks(std::initializer_list<Link*> links);
   void registerLink(Link& link);
-  void say(bool verbose, const std::string& text) const;
+  void announce(bool verbose, const std::string& text) const;
 
   // How long broadcastPacket collects answers, in seconds.
   double bcst_window_ = PACKET_TIMEOUT;

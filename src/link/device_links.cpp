@@ -20,10 +20,10 @@ void setupLink(Link& link, const char* thread_name, size_t read_size, Link::Fail
 // ---- USBDevice -------------------------------------------------------------------
 
 USBDevice::USBDevice(bool verbose, std::string class_name) : Device(std::move(class_name)) {
-  setupLink(cmd_, "recv_cmd_thread", USB_PKT_SIZE, Link::Failures::ReportUsb);
+  setupLink(cmd_, "recv_cmd_thread", USB_PKT_SIZE, Link::Failures::Print);
   registerLink(cmd_);
   startThread(cmd_);
-  say(verbose, "Opened handle (" + deviceName() + ")");
+  announce(verbose, "Opened handle (" + deviceName() + ")");
 }
 
 USBDevice::~USBDevice() { stopLinks({&cmd_}); }
@@ -48,7 +48,7 @@ void USBDevice::connect(const std::string& serial_num, bool verbose) {
     serial_num_ = serial;
   }
   cmd_.gate.open();
-  say(verbose, "Connected to " + serial + " (" + deviceName() + ")");
+  announce(verbose, "Connected to " + serial + " (" + deviceName() + ")");
 }
 
 void USBDevice::disconnect(bool verbose) {
@@ -58,7 +58,7 @@ void USBDevice::disconnect(bool verbose) {
   // client and then parks at the gate.
   cmd_.setClient(nullptr);
   cmd_.status = false;
-  say(verbose, "Disconnected from " + serialNum().value_or("") + " (" + deviceName() + ")");
+  announce(verbose, "Disconnected from " + serialNum().value_or("") + " (" + deviceName() + ")");
 }
 
 void USBDevice::close(bool verbose) {
@@ -66,17 +66,17 @@ void USBDevice::close(bool verbose) {
   if (cmd_.status) disconnect();
   closeBase();
   finishClose({&cmd_});
-  say(verbose, "Closed handle (" + deviceName() + ")");
+  announce(verbose, "Closed handle (" + deviceName() + ")");
 }
 
 // ---- NetworkDevice ---------------------------------------------------------------
 
 NetworkDevice::NetworkDevice(bool verbose, std::string class_name) : Device(std::move(class_name)) {
-  setupLink(cmd_, "recv_cmd_thread", TCP_PKT_LENGTH_MAX, Link::Failures::Silent);
+  setupLink(cmd_, "recv_cmd_thread", TCP_PKT_LENGTH_MAX, Link::Failures::Quiet);
   cmd_.setClient(std::make_shared<TCPClient>());
   registerLink(cmd_);
   startThread(cmd_);
-  say(verbose, "Opened handle (" + deviceName() + ")");
+  announce(verbose, "Opened handle (" + deviceName() + ")");
 }
 
 NetworkDevice::~NetworkDevice() { stopLinks({&cmd_}); }
@@ -100,7 +100,7 @@ void NetworkDevice::connect(const std::string& ip_addr, int port, bool verbose) 
     ip_addr_ = ip_addr;
   }
   cmd_.gate.open();
-  say(verbose, "Connected to " + ip_addr + " (" + deviceName() + ")");
+  announce(verbose, "Connected to " + ip_addr + " (" + deviceName() + ")");
 }
 
 void NetworkDevice::disconnect(bool verbose) {
@@ -109,7 +109,7 @@ void NetworkDevice::disconnect(bool verbose) {
   // The shutdown wakes the thread's read; it comes back and parks.
   clientCmd()->disconnect();
   cmd_.status = false;
-  say(verbose, "Disconnected from " + ipAddr().value_or("") + " (" + deviceName() + ")");
+  announce(verbose, "Disconnected from " + ipAddr().value_or("") + " (" + deviceName() + ")");
 }
 
 void NetworkDevice::close(bool verbose) {
@@ -117,18 +117,18 @@ void NetworkDevice::close(bool verbose) {
   if (cmd_.status) NetworkDevice::disconnect();
   closeBase();
   finishClose({&cmd_});
-  say(verbose, "Closed handle (" + deviceName() + ")");
+  announce(verbose, "Closed handle (" + deviceName() + ")");
 }
 
 // ---- WifiDevice ------------------------------------------------------------------
 
 WifiDevice::WifiDevice(bool verbose, std::string class_name)
     : NetworkDevice(false, std::move(class_name)) {
-  setupLink(data_, "recv_data_thread", TCP_DATA_LENGTH_MAX, Link::Failures::Silent);
+  setupLink(data_, "recv_data_thread", TCP_DATA_LENGTH_MAX, Link::Failures::Quiet);
   data_.setClient(std::make_shared<TCPClient>());
   registerLink(data_);
   startThread(data_);
-  say(verbose, "Opened handle (" + deviceName() + ")");
+  announce(verbose, "Opened handle (" + deviceName() + ")");
 }
 
 WifiDevice::~WifiDevice() { stopLinks({&data_, &cmd_}); }
@@ -143,7 +143,7 @@ bool WifiDevice::connect(const std::string& ip, int port1, int port2, bool verbo
   if (!client) raise(ErrorId::DeviceClosedError);
   data_.status = client->connect(ip, port1);
   data_.gate.open();
-  say(verbose, "Connected to " + ip + " (" + deviceName() + ")");
+  announce(verbose, "Connected to " + ip + " (" + deviceName() + ")");
   return data_.status;
 }
 
@@ -153,7 +153,7 @@ void WifiDevice::disconnect(bool verbose) {
   data_.gate.close();
   clientData()->disconnect();
   data_.status = false;
-  say(verbose, "Disconnected from " + ipAddr().value_or("") + " (" + deviceName() + ")");
+  announce(verbose, "Disconnected from " + ipAddr().value_or("") + " (" + deviceName() + ")");
 }
 
 void WifiDevice::close(bool verbose) {
@@ -161,14 +161,14 @@ void WifiDevice::close(bool verbose) {
   if (cmd_.status || data_.status) disconnect();
   NetworkDevice::close(false);
   finishClose({&data_});
-  say(verbose, "Closed handle (" + deviceName() + ")");
+  announce(verbose, "Closed handle (" + deviceName() + ")");
 }
 
 // ---- BroadcastDevice -------------------------------------------------------------
 
 BroadcastDevice::BroadcastDevice(bool verbose, std::string class_name)
     : Device(std::move(class_name)), udp_client_(std::make_shared<UDPClient>()) {
-  setupLink(udp_, "recv_udp_thread", UDP_PKT_LENGTH_MAX, Link::Failures::Silent);
+  setupLink(udp_, "recv_udp_thread", UDP_PKT_LENGTH_MAX, Link::Failures::Quiet);
   // A shorter answer window, e.g. for tests against a simulator on loopback.
   if (const char* w = std::getenv("PYORV_BROADCAST_WINDOW")) {
     char* end = nullptr;
@@ -178,7 +178,7 @@ BroadcastDevice::BroadcastDevice(bool verbose, std::string class_name)
   udp_.setClient(udp_client_);
   registerLink(udp_);
   startThread(udp_);
-  say(verbose, "Opened handle (" + deviceName() + ")");
+  announce(verbose, "Opened handle (" + deviceName() + ")");
 }
 
 BroadcastDevice::~BroadcastDevice() { stopLinks({&udp_}); }
@@ -191,7 +191,7 @@ void BroadcastDevice::connect(bool verbose) {
   if (udp_.status) return;
   udp_.status = udp_client_->bind("", UDP_RECV_PORT);
   udp_.gate.open();
-  say(verbose, "Binded " + deviceName());
+  announce(verbose, "Binded " + deviceName());
 }
 
 void BroadcastDevice::disconnect(bool verbose) {
@@ -199,7 +199,7 @@ void BroadcastDevice::disconnect(bool verbose) {
   udp_.gate.close();
   udp_client_->disconnect();
   udp_.status = false;
-  say(verbose, "Disconnected " + deviceName());
+  announce(verbose, "Disconnected " + deviceName());
 }
 
 void BroadcastDevice::close(bool verbose) {
@@ -207,7 +207,7 @@ void BroadcastDevice::close(bool verbose) {
   if (udp_.status) disconnect();
   closeBase();
   finishClose({&udp_});
-  say(verbose, "Closed handle (" + deviceName() + ")");
+  announce(verbose, "Closed handle (" + deviceName() + ")");
 }
 
 }  // namespace orv

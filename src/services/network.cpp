@@ -61,11 +61,11 @@ int NetworkModule::Net_setIPAddrAndSubmask(const Call& c, const Value& ip, const
   Bytes data_out = convertIPAddrTo4U8(ip.asText());
   const Bytes u8_list2 = convertIPAddrTo4U8(mask.asText());
   data_out.insert(data_out.end(), u8_list2.begin(), u8_list2.end());
-  return c.statusTail(SET_IP, data_out, 0);
+  return c.exchangeStatus(SET_IP, data_out, 0);
 }
 
 int NetworkModule::_setGateway(const Call& c, const Value& gw) {
-  return c.statusTail(SET_GATEWAY, addressBytes(gw), 0);
+  return c.exchangeStatus(SET_GATEWAY, addressBytes(gw), 0);
 }
 
 // The count of parts is not checked: the firmware judges the payload.
@@ -74,7 +74,7 @@ int NetworkModule::_setMACAddr(const Call& c, const Value& mac) {
   Bytes data_out;
   for (int64_t part : convertMACAddrTo6U8(mac.asText()))
     data_out.push_back(services::byteArg(Value(part)));
-  return c.statusTail(SET_MAC, data_out, 0);
+  return c.exchangeStatus(SET_MAC, data_out, 0);
 }
 
 }  // namespace orv

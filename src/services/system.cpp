@@ -107,7 +107,7 @@ int SystemModule::_setSerialNumber(const Call& c, const Value& serial_num) {
     throw TypeError("'" + std::string(serial_num.typeName()) + "' object is not iterable");
   Bytes data_out;
   for (int64_t cp : convertStrToU8List(serial_num.asText())) data_out.push_back(byteOf(cp));
-  return c.statusTail(SET_SERIAL_NUMBER, data_out, 0);
+  return c.exchangeStatus(SET_SERIAL_NUMBER, data_out, 0);
 }
 
 // ---- real-time clock ------------------------------------------------------------
@@ -140,7 +140,7 @@ int SystemModule::Sys_setRTC(const Call& c, const Value& year_in, const Value& m
   // The year goes out from 1900 on every model.
   const Bytes data_out{byteOf(year.asInt() - 1900), byteOf(month.asInt()),  byteOf(day.asInt()),
                        byteOf(hour.asInt()),        byteOf(minute.asInt()), byteOf(second.asInt())};
-  return c.statusTail(SET_DATE_TIME, data_out, 0);
+  return c.exchangeStatus(SET_DATE_TIME, data_out, 0);
 }
 
 // ---- pin and slot modes ---------------------------------------------------------
@@ -224,12 +224,12 @@ int SystemModule::Sys_setSwitchMode(const Call& c, const Value& slot) {
 // The payload is the command's own value.
 int SystemModule::Sys_reboot(const Call& c) {
   const uint8_t data_out[] = {REBOOT};
-  return c.statusTail(REBOOT, data_out, 0);
+  return c.exchangeStatus(REBOOT, data_out, 0);
 }
 
 int SystemModule::Sys_rebootOnBootloader(const Call& c) {
   const uint8_t data_out[] = {REBOOT_ON_BOOTLOADER};
-  return c.statusTail(REBOOT_ON_BOOTLOADER, data_out, 0);
+  return c.exchangeStatus(REBOOT_ON_BOOTLOADER, data_out, 0);
 }
 
 // ---- EEPROM and factory services ------------------------------------------------
@@ -254,16 +254,16 @@ int SystemModule::_setEEPROMPage(const Call& c, const Value& page_number, const 
   } else {
     for (const Value& v : int_list.asList()) data_out.push_back(byteArg(v));
   }
-  return c.statusTail(SET_EEPROM_PAGE, data_out, 0);
+  return c.exchangeStatus(SET_EEPROM_PAGE, data_out, 0);
 }
 
 int SystemModule::_setEEPROMByte(const Call& c, const Value& page_number, const Value& byte_index,
                                  const Value& value) {
   const uint8_t data_out[] = {byteArg(page_number), byteArg(byte_index), byteArg(value)};
-  return c.statusTail(SET_EEPROM_BYTE, data_out, 0);
+  return c.exchangeStatus(SET_EEPROM_BYTE, data_out, 0);
 }
 
-int SystemModule::_resetFactory(const Call& c) { return c.statusTail(RESET_FACTORY, kNoData, 0); }
+int SystemModule::_resetFactory(const Call& c) { return c.exchangeStatus(RESET_FACTORY, kNoData, 0); }
 
 std::string SystemModule::_getThreads(const Call& c) {
   std::string s = convertU8ListToStr(c.exchange(GET_THREADS, kNoData));

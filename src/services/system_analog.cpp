@@ -36,7 +36,7 @@ double SystemAnalogModule::Wifi_readThermo(const Call& c) {
 
 int SystemAnalogModule::Wifi_resetAIBuffer_(const Call& c) {
   const uint8_t data_out[] = {0};
-  return c.statusTail(AI_RESET_BUFFER, data_out, 0);
+  return c.exchangeStatus(AI_RESET_BUFFER, data_out, 0);
 }
 
 }  // namespace orv

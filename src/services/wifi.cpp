@@ -84,13 +84,13 @@ int64_t WifiModule::Wifi_readRSSI(const Call& c) {
   return v;
 }
 
-int WifiModule::Wifi_setAP(const Call& c) { return c.statusTail(SET_AP, kNoData, 0); }
+int WifiModule::Wifi_setAP(const Call& c) { return c.exchangeStatus(SET_AP, kNoData, 0); }
 
 int WifiModule::Wifi_setBandwidth(const Call& c, const Value& bw) {
   checkInputType(bw, kTypeInt);
   const int64_t limited = std::min<int64_t>(bw.asInt(), 1);
   const uint8_t data_out[] = {services::byteArg(Value(limited))};
-  return c.statusTail(SET_WIFI_BANDWIDTH, data_out, 0);
+  return c.exchangeStatus(SET_WIFI_BANDWIDTH, data_out, 0);
 }
 
 int WifiModule::_setWifiConfiguration(const Call& c, const Value& retry_wifi_times,
@@ -100,7 +100,7 @@ int WifiModule::_setWifiConfiguration(const Call& c, const Value& retry_wifi_tim
   Bytes data_out = convertU16To2U8(retry_wifi_times);
   const Bytes b = convertU16To2U8(ap_time);
   data_out.insert(data_out.end(), b.begin(), b.end());
-  return c.statusTail(SET_WIFI_CONFIGURATION, data_out, 0);
+  return c.exchangeStatus(SET_WIFI_CONFIGURATION, data_out, 0);
 }
 
 }  // namespace orv

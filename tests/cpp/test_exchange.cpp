@@ -158,7 +158,7 @@ TEST_F(Exchange, StatusTailReturnsNegativeCodesAndCallFlavoursShareTheBody) {
   });
   auto body = [](const Call& c, uint8_t status) {
     const Bytes out{1, status};
-    return c.statusTail(kSilentCmd, out, 1);
+    return c.exchangeStatus(kSilentCmd, out, 1);
   };
   Call blocking(*dev_, Call::Flavour::Blocking, 3);
   Call awaitable(*dev_, Call::Flavour::Awaitable);
@@ -166,7 +166,7 @@ TEST_F(Exchange, StatusTailReturnsNegativeCodesAndCallFlavoursShareTheBody) {
   EXPECT_EQ(body(blocking, 13), errFirmwareORVIndex);
   EXPECT_EQ(body(awaitable, 80), errFirmwareParser);
   EXPECT_EQ(body(awaitable, 99), errFirmwareOther);
-  EXPECT_THROW(Call(*dev_, Call::Flavour::Blocking).statusTail(kSilentCmd, Bytes{1, 0}, 5), Error);
+  EXPECT_THROW(Call(*dev_, Call::Flavour::Blocking).exchangeStatus(kSilentCmd, Bytes{1, 0}, 5), Error);
 }
 
 TEST_F(Exchange, StreamRecordsReachTheirQueueAndBlockingReadWaitsForCount) {
