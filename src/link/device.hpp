@@ -56,7 +56,7 @@ class GateAlreadyOpen : public std::runtime_error {
 // One link of a device: transport, status, gate and receive thread.
 struct Link {
   enum class Failures { Print, Quiet };  // a USB link prints its read failures
-  std::string thread_name;  // recv_cmd_thread, recv_data_thread, recv_udp_thread
+  std::string thread_name;               // recv_cmd_thread, recv_data_thread, recv_udp_thread
   size_t read_size = 0;
   Failures failures = Failures::Quiet;
 

@@ -166,7 +166,8 @@ TEST_F(Exchange, StatusTailReturnsNegativeCodesAndCallFlavoursShareTheBody) {
   EXPECT_EQ(body(blocking, 13), errFirmwareORVIndex);
   EXPECT_EQ(body(awaitable, 80), errFirmwareParser);
   EXPECT_EQ(body(awaitable, 99), errFirmwareOther);
-  EXPECT_THROW(Call(*dev_, Call::Flavour::Blocking).exchangeStatus(kSilentCmd, Bytes{1, 0}, 5), Error);
+  EXPECT_THROW(Call(*dev_, Call::Flavour::Blocking).exchangeStatus(kSilentCmd, Bytes{1, 0}, 5),
+               Error);
 }
 
 TEST_F(Exchange, StreamRecordsReachTheirQueueAndBlockingReadWaitsForCount) {
