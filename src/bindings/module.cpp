@@ -48,14 +48,10 @@ void setPythonAlive(bool alive) { g_alive.store(alive); }
 void installHooks(py::module_& m) {
   report::setHooks({&pyPrint, &pyWarning});
   setPythonAlive(true);
-  // At exit: close what is still open, finish the awaitable workers, then
-  // stop entering the interpreter from other threads.
+  // At exit: close what is still open, then stop entering the interpreter
+  // from other threads.
   m.def("_shutdown", [] {
     closeAllDevices();
-    {
-      py::gil_scoped_release r;
-      Executor::instance().shutdown();
-    }
     setPythonAlive(false);
     report::setHooks({});
   });
@@ -132,6 +128,7 @@ PYBIND11_MODULE(_pyorv, m) {
   bindErrors(m);
   bindConvert(m);
   bindLink(m);
+  bindReactor(m);
   bindRegistered(m);  // the modules and DeviceFinder
   bindModels(m);
   bindSim(m);

@@ -2,133 +2,137 @@
 
 #include <pybind11/eval.h>
 #include <pybind11/gil_safe_call_once.h>
+#include <sys/eventfd.h>
+#include <sys/timerfd.h>
+#include <unistd.h>
 
-#include <condition_variable>
+#include <cerrno>
 #include <deque>
+#include <map>
 #include <mutex>
-#include <thread>
-#include <vector>
+#include <system_error>
+#include <unordered_map>
+
+#include "link/fiber.hpp"
 
 namespace orv::py_bind {
 
-struct Executor::State {
-  mutable std::mutex m;
-  std::condition_variable cv;
-  std::deque<std::function<void()>> queue;
-  std::vector<std::thread> threads;
-  size_t idle = 0;
-  bool stopping = false;
-};
-
-// Enough workers for many overlapping exchanges; more calls queue up.
-static constexpr size_t kMaxWorkers = 64;
-
 namespace {
 
-// A worker enters the interpreter once per completed call.  Making a thread
-// state each time costs a fresh frame stack (an mmap and munmap, and so a TLB
-// shootdown across cores) per call; a worker makes one on its first entry
-// and keeps it until it ends.
-thread_local bool t_keeps_state = false;
-
-void keepThreadState(py::gil_scoped_acquire& gil) {
-  if (t_keeps_state) return;
-  gil.inc_ref();  // one reference more than the scope's: the state outlives it
-  t_keeps_state = true;
-}
-
-void dropThreadState() {
-  if (!t_keeps_state || !pythonAlive()) return;
-  t_keeps_state = false;
-  py::gil_scoped_acquire gil;
-  gil.dec_ref();  // the scope's own release then deletes the state
-}
-
-}  // namespace
-
-std::shared_ptr<Executor::State> Executor::make() { return std::make_shared<State>(); }
-
-Executor& Executor::instance() {
-  static auto* e = new Executor();  // never destroyed: shutdown() joins the workers
-  return *e;
-}
-
-void Executor::submit(std::function<void()> task) {
-  std::lock_guard lk(s_->m);
-  if (s_->stopping) throw std::runtime_error("the driver is shutting down");
-  s_->queue.push_back(std::move(task));
-  if (s_->idle == 0 && s_->threads.size() < kMaxWorkers)
-    s_->threads.emplace_back([this] { run(); });
-  else
-    s_->cv.notify_one();
-}
-
-void Executor::run() {
-  std::unique_lock lk(s_->m);
-  for (;;) {
-    ++s_->idle;
-    s_->cv.wait(lk, [&] { return s_->stopping || !s_->queue.empty(); });
-    --s_->idle;
-    if (s_->queue.empty()) {  // stopping
-      lk.unlock();
-      dropThreadState();
-      return;
+// The reactor of an asyncio loop: an eventfd the loop watches for work posted
+// from other threads (a reply handed over by a receive thread, a cancel), and
+// a timerfd for the deadlines of the waits.  Holds no Python object, so that
+// the last owner may drop it on any thread.
+class LoopReactor : public Reactor {
+ public:
+  LoopReactor() {
+    efd_ = eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC);
+    tfd_ = timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC);
+    if (efd_ < 0 || tfd_ < 0) {
+      const int err = errno;
+      closeFds();
+      throw std::system_error(err, std::generic_category(), "pyorv: event loop wake-up");
     }
-    auto task = std::move(s_->queue.front());
-    s_->queue.pop_front();
-    lk.unlock();
-    task();
-    lk.lock();
   }
-}
+  ~LoopReactor() override { closeFds(); }
 
-void Executor::shutdown() {
-  std::vector<std::thread> threads;
-  {
-    std::lock_guard lk(s_->m);
-    s_->stopping = true;
-    threads.swap(s_->threads);
+  int postFd() const { return efd_; }
+  int timerFd() const { return tfd_; }
+
+  void post(std::function<void()> fn) override {
+    bool was_empty;
+    {
+      std::lock_guard lk(m_);
+      was_empty = posted_.empty();
+      posted_.push_back(std::move(fn));
+    }
+    if (was_empty) {
+      const uint64_t one = 1;
+      [[maybe_unused]] auto n = write(efd_, &one, sizeof one);
+    }
   }
-  s_->cv.notify_all();
-  for (auto& t : threads) t.join();
-}
 
-size_t Executor::workers() const {
-  std::lock_guard lk(s_->m);
-  return s_->threads.size();
-}
+  uint64_t callAt(Clock::time_point when, std::function<void()> fn) override {
+    const uint64_t id = next_timer_++;
+    timers_.emplace(std::make_pair(when, id), std::move(fn));
+    deadlines_.emplace(id, when);
+    if (when < armed_) arm(when);
+    return id;
+  }
 
-namespace {
+  void cancelTimer(uint64_t id) override {
+    // The timerfd stays armed: its wake finds nothing due and re-arms.
+    auto it = deadlines_.find(id);
+    if (it == deadlines_.end()) return;
+    timers_.erase(std::make_pair(it->second, id));
+    deadlines_.erase(it);
+  }
 
-// Python objects of one pending call; created and destroyed with the GIL.
-struct Pending {
-  py::object keep, loop, future;
-  std::shared_ptr<CancelToken> token;
+  // The loop's reader callbacks.
+  void runPosted() {
+    uint64_t n;
+    [[maybe_unused]] auto r = read(efd_, &n, sizeof n);
+    std::deque<std::function<void()>> work;
+    {
+      std::lock_guard lk(m_);
+      work.swap(posted_);
+    }
+    for (auto& fn : work) fn();
+  }
+
+  void runTimers() {
+    uint64_t n;
+    [[maybe_unused]] auto r = read(tfd_, &n, sizeof n);
+    armed_ = Clock::time_point::max();
+    const auto now = Clock::now();
+    while (!timers_.empty() && timers_.begin()->first.first <= now) {
+      auto node = timers_.extract(timers_.begin());
+      deadlines_.erase(node.key().second);
+      node.mapped()();
+    }
+    if (!timers_.empty()) arm(timers_.begin()->first.first);
+  }
+
+ private:
+  void arm(Clock::time_point when) {
+    armed_ = when;
+    const auto ns = std::chrono::duration_cast<std::chrono::nanoseconds>(when.time_since_epoch());
+    itimerspec spec{};
+    spec.it_value.tv_sec = static_cast<time_t>(ns.count() / 1000000000);
+    spec.it_value.tv_nsec = static_cast<long>(ns.count() % 1000000000);
+    if (spec.it_value.tv_sec == 0 && spec.it_value.tv_nsec == 0) spec.it_value.tv_nsec = 1;
+    timerfd_settime(tfd_, TFD_TIMER_ABSTIME, &spec, nullptr);
+  }
+  void closeFds() {
+    if (efd_ >= 0) ::close(efd_);
+    if (tfd_ >= 0) ::close(tfd_);
+    efd_ = tfd_ = -1;
+  }
+
+  int efd_ = -1, tfd_ = -1;
+  std::mutex m_;
+  std::deque<std::function<void()>> posted_;
+  // Loop thread only.
+  std::map<std::pair<Clock::time_point, uint64_t>, std::function<void()>> timers_;
+  std::unordered_map<uint64_t, Clock::time_point> deadlines_;
+  uint64_t next_timer_ = 1;
+  Clock::time_point armed_ = Clock::time_point::max();
 };
 
-// Python objects made once, on first use, and never released: a worker may
-// use them up to interpreter exit.
+// One pending awaitable call; made, completed and freed on the loop's thread
+// with the GIL held.
+struct Pending {
+  py::object keep, future;
+  std::shared_ptr<CancelToken> token;
+  std::unique_ptr<Fiber> fiber;
+  std::function<py::object()> make_result;
+  std::exception_ptr error;
+};
+
+// Python objects made once, on first use, and never released.
 template <class Make>
 py::object& once(py::gil_safe_call_once_and_store<py::object>& store, Make make) {
   return store.call_once_and_store_result(make).get_stored();
-}
-
-py::object& setResult() {
-  PYBIND11_CONSTINIT static py::gil_safe_call_once_and_store<py::object> store;
-  return once(store, [] {
-    return py::cpp_function([](py::object fut, py::object value) {
-      if (!fut.attr("done")().cast<bool>()) fut.attr("set_result")(value);
-    });
-  });
-}
-
-py::object& setException() {
-  PYBIND11_CONSTINIT static py::gil_safe_call_once_and_store<py::object> store;
-  return once(store, [] {
-    return py::cpp_function([](py::object fut, py::object exc) {
-      if (!fut.attr("done")().cast<bool>()) fut.attr("set_exception")(exc);
-    });
-  });
 }
 
 py::object runningLoop() {
@@ -152,55 +156,77 @@ py::object cancelOnDone(const std::shared_ptr<CancelToken>& token) {
   return once(partial, [] { return py::module_::import("functools").attr("partial"); })(fn, cap);
 }
 
+// The reactor of `loop`, made and hooked into the loop on first use.
+std::shared_ptr<LoopReactor> reactorFor(const py::object& loop) {
+  PYBIND11_CONSTINIT static py::gil_safe_call_once_and_store<py::object> store;
+  py::object& reactors =
+      once(store, [] { return py::module_::import("weakref").attr("WeakKeyDictionary")(); });
+  py::object found = reactors.attr("get")(loop);
+  if (!found.is_none()) return found.cast<std::shared_ptr<LoopReactor>>();
+  auto reactor = std::make_shared<LoopReactor>();
+  py::object obj = py::cast(reactor);
+  loop.attr("add_reader")(reactor->postFd(), obj.attr("_run_posted"));
+  loop.attr("add_reader")(reactor->timerFd(), obj.attr("_run_timers"));
+  reactors[loop] = obj;
+  return reactor;
+}
+
+void complete(Pending& p) {
+  if (p.future.attr("done")().cast<bool>()) return;
+  if (!p.error) {
+    p.future.attr("set_result")(p.make_result());
+    return;
+  }
+  py::object exc = exceptionObject(p.error);
+  if (exc.is_none()) {
+    try {
+      std::rethrow_exception(p.error);
+    } catch (const std::exception& e) {
+      exc = py::module_::import("builtins").attr("RuntimeError")(e.what());
+    } catch (...) {
+      exc = py::module_::import("builtins").attr("RuntimeError")("unknown failure");
+    }
+  }
+  p.future.attr("set_exception")(exc);
+}
+
 }  // namespace
+
+void bindReactor(py::module_& m) {
+  py::class_<LoopReactor, std::shared_ptr<LoopReactor>>(m, "_LoopReactor")
+      .def("_run_posted", &LoopReactor::runPosted)
+      .def("_run_timers", &LoopReactor::runTimers);
+}
 
 py::object startAwaitable(py::object keep, AsyncBody body) {
   py::object loop = runningLoop();
-  py::object future = loop.attr("create_future")();
-  auto token = std::make_shared<CancelToken>();
-  future.attr("add_done_callback")(cancelOnDone(token));
-  auto* pending = new Pending{std::move(keep), loop, future, token};
-
-  auto task = [pending, body = std::move(body)] {
-    std::function<py::object()> make_result;
-    std::exception_ptr error;
-    try {
-      make_result = body(pending->token.get());
-    } catch (...) {
-      error = std::current_exception();
-    }
-    if (!pythonAlive()) return;  // the interpreter is going away; nothing to complete
-    py::gil_scoped_acquire gil;
-    keepThreadState(gil);
-    try {
-      if (!pending->future.attr("done")().cast<bool>()) {
-        if (error) {
-          py::object exc = exceptionObject(error);
-          if (exc.is_none()) {
-            try {
-              std::rethrow_exception(error);
-            } catch (const std::exception& e) {
-              exc = py::module_::import("builtins").attr("RuntimeError")(e.what());
-            } catch (...) {
-              exc = py::module_::import("builtins").attr("RuntimeError")("unknown failure");
-            }
-          }
-          pending->loop.attr("call_soon_threadsafe")(setException(), pending->future, exc);
-        } else {
-          pending->loop.attr("call_soon_threadsafe")(setResult(), pending->future, make_result());
+  auto reactor = reactorFor(loop);
+  auto* p = new Pending{std::move(keep),
+                        loop.attr("create_future")(),
+                        std::make_shared<CancelToken>(),
+                        nullptr,
+                        {},
+                        {}};
+  py::object future = p->future;
+  future.attr("add_done_callback")(cancelOnDone(p->token));
+  p->fiber = std::make_unique<Fiber>(
+      reactor,
+      [p, body = std::move(body)] {
+        try {
+          p->make_result = body(p->token.get());
+        } catch (...) {
+          p->error = std::current_exception();
         }
-      }
-    } catch (py::error_already_set&) {
-      // The loop was closed meanwhile: nobody waits for this result.
-    }
-    delete pending;
-  };
-  try {
-    Executor::instance().submit(std::move(task));
-  } catch (...) {
-    delete pending;
-    throw;
-  }
+      },
+      [p] {
+        try {
+          complete(*p);
+        } catch (py::error_already_set& e) {
+          e.discard_as_unraisable("pyorv awaitable");
+        }
+        delete p;  // frees the fiber last: its stack is no longer in use
+      });
+  p->fiber->resume();
   return future;
 }
 

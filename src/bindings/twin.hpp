@@ -1,7 +1,9 @@
-// The awaitable twin of an operation: the same C++ body runs on a worker of
-// the extension's executor while the event loop goes on; the result completes
-// an asyncio future through loop.call_soon_threadsafe.  Cancelling the future
-// cancels the call's token, which stops it at its next exchange or wait.
+// The awaitable twin of an operation: the same C++ body runs on a fiber on the
+// event loop's thread (link/fiber.hpp).  Its waits park the fiber and give the
+// loop back; a reply, a deadline or a cancel resumes it through the loop's
+// reactor, and its end completes the call's asyncio future.  No thread is
+// taken by a pending call.  Cancelling the future cancels the call's token,
+// which ends the wait it is in.
 #pragma once
 
 #include <pybind11/pybind11.h>
@@ -14,40 +16,25 @@
 
 namespace orv::py_bind {
 
-// Runs tasks on a small pool of threads that grows on demand.
-class Executor {
- public:
-  static Executor& instance();
-  void submit(std::function<void()> task);
-  // Runs what is queued, then joins every worker.  Called at interpreter exit
-  // with the GIL released.
-  void shutdown();
-  size_t workers() const;
-
- private:
-  Executor() = default;
-  void run();
-  struct State;
-  std::shared_ptr<State> s_ = make();
-  static std::shared_ptr<State> make();
-};
-
-// The body of an awaitable call: runs without the GIL and returns a callable
-// that makes the Python result (run with the GIL held).
+// The body of an awaitable call: runs on the call's fiber and returns a
+// callable that makes the Python result (run afterwards, on the loop's stack).
 using AsyncBody = std::function<std::function<py::object()>(CancelToken* tok)>;
 
 // The awaitable twin's result: a coroutine, so that it can be made outside a
 // running loop (asyncio.run(dev.X_async())) like any `async def`.  When it is
-// awaited it starts `body` on the executor and waits for its future.  `keep`
-// is held until the call ends: the device object.
+// awaited it starts `body` and waits for its future.  `keep` is held until the
+// call ends: the device object.
 py::object makeCoroutine(py::object keep, AsyncBody body);
 
-// Starts `body` on the executor now and returns the asyncio future of its
-// result (needs a running loop).
+// Starts `body` on the running loop now and returns the asyncio future of its
+// result.
 py::object startAwaitable(py::object keep, AsyncBody body);
 
 // A coroutine that runs `f` when awaited, without suspending (for twins that
 // never wait: fire-and-forget sends, stream reads that take what is there).
 py::object immediateCoroutine(std::function<py::object()> f);
+
+// The loop reactor's class (its reader callbacks).
+void bindReactor(py::module_& m);
 
 }  // namespace orv::py_bind

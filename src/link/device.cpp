@@ -4,7 +4,9 @@
 #include <chrono>
 
 #include "link/error.hpp"
+#include "link/fiber.hpp"
 #include "link/report.hpp"
+#include "link/stream_route.hpp"
 
 namespace orv {
 
@@ -97,27 +99,13 @@ void Device::putToDataPool(int cmd, const Bytes& data) {
   const int64_t key = echoKey(cmd, data);
   switch (type) {
     case CmdType::Streaming: {
-      auto need = [&](size_t n) {
-        if (data.size() < n) throw IndexError("index out of range: stream record too short");
-      };
-      auto from = [&](size_t n) {
-        return Bytes(data.begin() + std::min(n, data.size()), data.end());
-      };
-      if (cmd == START_AI_STREAMING) {
-        need(2);
-        strm_.get(StreamKey::triple(cmd, data[0], data[1]))->push(from(2));
-      } else if (cmd == START_AI_STREAMING_VARIABLE) {
-        strm_.get(StreamKey::triple(cmd, 0, 0))->push(from(2));
-      } else if (cmd == START_CAN) {
-        strm_.get(StreamKey::one(cmd))->push(from(2));
-      } else if (cmd == AHRS_START) {
-        strm_.get(StreamKey::one(cmd))->push(from(1));
-      } else if (cmd == START_UART_READING) {
-        need(1);
-        strm_.get(StreamKey::pair(cmd, data[0]))->push(from(2));
-      } else {
+      const StreamRoute* route = findStreamRoute(cmd);
+      if (!route) {
         strm_.get(StreamKey::one(static_cast<int>(key)))->push(data);
+        break;
       }
+      const size_t at = std::min(route->payload_at, data.size());
+      strm_.get(route->key(cmd, data))->push(Bytes(data.begin() + at, data.end()));
       break;
     }
     case CmdType::Echo:
@@ -249,6 +237,19 @@ void Device::sendPacketWithoutReply(int cmd, std::span<const uint8_t> data_out) 
 }
 
 namespace {
+// A wait sleeps the calling thread, or on a fiber (an awaitable call) parks
+// the fiber and gives the loop back.
+EchoPool::WaitResult waitReply(EchoPool& pool, int64_t key, Clock::time_point deadline, Bytes& out,
+                               CancelToken* tok) {
+  if (Fiber::current()) return fiberWaitPop(pool, key, deadline, out, tok);
+  return pool.waitPop(key, deadline, out, tok);
+}
+
+EchoPool::WaitResult sleepUntil(EchoPool& pool, Clock::time_point deadline, CancelToken* tok) {
+  if (Fiber::current()) return fiberSleepUntil(pool, deadline, tok);
+  return pool.sleepUntil(deadline, tok);
+}
+
 [[noreturn]] void waitFailed(EchoPool::WaitResult r) {
   if (r == EchoPool::WaitResult::Cancelled) throw Cancelled();
   raise(ErrorId::DeviceClosedError);
@@ -262,10 +263,10 @@ Bytes Device::getReplyFromPool(int64_t key, double timeout, CancelToken* tok) {
     raise(ErrorId::InputDataNotInRangeError, "The reply timeout must be greater than 0 seconds.");
   const auto start = Clock::now();
   Bytes out;
-  auto r = echo_.waitPop(key, start + seconds(timeout), out, tok);
+  auto r = waitReply(echo_, key, start + seconds(timeout), out, tok);
   if (r == EchoPool::WaitResult::Taken) return out;
   if (r != EchoPool::WaitResult::TimedOut) waitFailed(r);
-  r = echo_.sleepUntil(start + seconds(timeout * 1.1), tok);
+  r = sleepUntil(echo_, start + seconds(timeout * 1.1), tok);
   if (r != EchoPool::WaitResult::TimedOut) waitFailed(r);
   raise(ErrorId::ReceivePacketTimeoutError);
 }
@@ -303,7 +304,7 @@ std::optional<Bytes> Device::echoPacketAsync(int cmd, std::span<const uint8_t> d
   const int64_t key = echoKey(cmd, data_out);
   sendPacketWithoutReply(cmd, data_out);
   Bytes out;
-  auto r = echo_.waitPop(key, Clock::now() + seconds(std::max(timeout, 0.0)), out, tok);
+  auto r = waitReply(echo_, key, Clock::now() + seconds(std::max(timeout, 0.0)), out, tok);
   if (r == EchoPool::WaitResult::Taken) return out;
   if (r == EchoPool::WaitResult::TimedOut) return std::nullopt;
   waitFailed(r);
@@ -312,7 +313,7 @@ std::optional<Bytes> Device::echoPacketAsync(int cmd, std::span<const uint8_t> d
 Bytes Device::getReplyFromPoolAsync(int64_t key, CancelToken* tok) {
   throwIfClosed();
   Bytes out;
-  auto r = echo_.waitPop(key, Clock::time_point::max(), out, tok);
+  auto r = waitReply(echo_, key, Clock::time_point::max(), out, tok);
   if (r == EchoPool::WaitResult::Taken) return out;
   waitFailed(r);
 }
@@ -329,7 +330,7 @@ Bytes Device::echoPacketWithRetryAsync(int cmd, std::span<const uint8_t> data_ou
   if (value) return std::move(*value);
   const double remaining = std::max(timeout - RETRY_TIMEOUT * count, 0.0);
   Bytes out;
-  auto r = echo_.waitPop(echoKey(cmd, data_out), Clock::now() + seconds(remaining), out, tok);
+  auto r = waitReply(echo_, echoKey(cmd, data_out), Clock::now() + seconds(remaining), out, tok);
   if (r == EchoPool::WaitResult::Taken) return out;
   if (r == EchoPool::WaitResult::TimedOut) throw AsyncTimeout();
   waitFailed(r);
@@ -344,7 +345,7 @@ std::set<Bytes> Device::broadcastPacket(int cmd, std::span<const uint8_t> data_o
   const Bytes packet = preparePacket(cmd, data_out);
   for (int i = 0; i < NUM_BCST_RETRIES; ++i) udp->sendBcstPacket(packet);
   // Answers are collected by the UDP thread for the whole window.
-  auto r = echo_.sleepUntil(Clock::now() + seconds(bcst_window_), tok);
+  auto r = sleepUntil(echo_, Clock::now() + seconds(bcst_window_), tok);
   if (r != EchoPool::WaitResult::TimedOut) waitFailed(r);
   return bcst_.get(cmd);
 }

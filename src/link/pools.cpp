@@ -1,5 +1,9 @@
 #include "link/pools.hpp"
 
+#include <algorithm>
+
+#include "link/stream_route.hpp"
+
 namespace orv {
 
 // ---- CancelToken -------------------------------------------------------------
@@ -40,11 +44,45 @@ class WakerScope {
 // ---- EchoPool ----------------------------------------------------------------
 
 void EchoPool::put(int64_t key, Bytes data) {
+  ReplyHandler handler;
   {
     std::lock_guard lk(m_);
-    slots_[key] = std::move(data);
+    auto it = std::find_if(waiters_.begin(), waiters_.end(),
+                           [key](const Waiter& w) { return w.key == key; });
+    if (it != waiters_.end()) {
+      handler = std::move(it->handler);
+      waiters_.erase(it);
+    } else {
+      slots_[key] = std::move(data);
+    }
   }
-  cv_.notify_all();
+  if (handler)
+    handler(std::move(data));
+  else
+    cv_.notify_all();
+}
+
+EchoPool::AddResult EchoPool::addWaiter(int64_t key, ReplyHandler handler, Bytes& out,
+                                        uint64_t& id) {
+  std::lock_guard lk(m_);
+  if (auto it = slots_.find(key); it != slots_.end()) {
+    out = std::move(it->second);
+    slots_.erase(it);
+    return AddResult::Taken;
+  }
+  if (closed_) return AddResult::Closed;
+  id = next_waiter_++;
+  waiters_.push_back({id, key, std::move(handler)});
+  return AddResult::Pending;
+}
+
+bool EchoPool::removeWaiter(uint64_t id) {
+  std::lock_guard lk(m_);
+  auto it =
+      std::find_if(waiters_.begin(), waiters_.end(), [id](const Waiter& w) { return w.id == id; });
+  if (it == waiters_.end()) return false;
+  waiters_.erase(it);
+  return true;
 }
 
 std::optional<Bytes> EchoPool::pop(int64_t key) {
@@ -106,11 +144,14 @@ EchoPool::WaitResult EchoPool::sleepUntil(Clock::time_point deadline, CancelToke
 }
 
 void EchoPool::close() {
+  std::vector<Waiter> waiters;
   {
     std::lock_guard lk(m_);
     closed_ = true;
+    waiters.swap(waiters_);
   }
   cv_.notify_all();
+  for (auto& w : waiters) w.handler(std::nullopt);
 }
 
 void EchoPool::reopen() {
@@ -240,6 +281,31 @@ size_t BroadcastPool::size(int cmd) const {
   std::lock_guard lk(m_);
   auto it = sets_.find(cmd);
   return it == sets_.end() ? 0 : it->second.size();
+}
+
+// ---- stream routes ---------------------------------------------------------------
+
+namespace {
+// A handful of entries, written before any receive thread starts.
+std::vector<std::pair<int, StreamRoute>>& streamRoutes() {
+  static std::vector<std::pair<int, StreamRoute>> routes;
+  return routes;
+}
+}  // namespace
+
+void registerStreamRoute(int cmd, StreamRoute route) {
+  for (auto& [c, r] : streamRoutes())
+    if (c == cmd) {
+      r = route;
+      return;
+    }
+  streamRoutes().emplace_back(cmd, route);
+}
+
+const StreamRoute* findStreamRoute(int cmd) {
+  for (const auto& [c, r] : streamRoutes())
+    if (c == cmd) return &r;
+  return nullptr;
 }
 
 }  // namespace orv

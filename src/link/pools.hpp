@@ -57,6 +57,19 @@ class EchoPool {
   // Sleeps until `deadline` unless cancelled or closed meanwhile.
   WaitResult sleepUntil(Clock::time_point deadline, CancelToken* tok);
 
+  // The waiter of a call that must not block a thread (an awaitable on its
+  // fiber): `handler` is handed the reply for `key` on the receive thread, in
+  // place of storing it, or nullopt when the pool closes.  A reply already
+  // there is taken at once instead (Taken, `out` set); a closed pool answers
+  // Closed.  Otherwise the waiter's id is set and the answer is Pending.
+  using ReplyHandler = std::function<void(std::optional<Bytes>)>;
+  enum class AddResult { Pending, Taken, Closed };
+  AddResult addWaiter(int64_t key, ReplyHandler handler, Bytes& out, uint64_t& id);
+  // False when the waiter was handed its answer already (it is on its way).
+  bool removeWaiter(uint64_t id);
+  // A key no reply has: a waiter on it hears only the pool's close.
+  static constexpr int64_t kNoReply = INT64_MIN;
+
   // Wakes every waiter; waiters see Closed while closed.
   void close();
   void reopen();
@@ -67,6 +80,13 @@ class EchoPool {
   mutable std::mutex m_;
   std::condition_variable cv_;
   std::unordered_map<int64_t, Bytes> slots_;
+  struct Waiter {
+    uint64_t id;
+    int64_t key;
+    ReplyHandler handler;
+  };
+  std::vector<Waiter> waiters_;  // oldest first
+  uint64_t next_waiter_ = 1;
   bool closed_ = false;
 };
 

@@ -1,0 +1,75 @@
+// Awaitable calls without a thread each.
+//
+// An operation body is one plain function for both twins (link/call.hpp).  The
+// blocking twin runs it in the caller's thread, which sleeps in each wait.
+// The awaitable twin runs the same body on a fiber: a small stack of its own,
+// switched to on the event loop's thread.  When the body waits for a reply it
+// hands the reply's arrival, its deadline and its cancellation to the loop's
+// Reactor and switches back to the loop; the loop switches to the fiber again
+// when one of them happens.  A pending awaitable so costs a parked stack, not
+// a thread, and a multi-step body needs no rewriting to suspend between steps.
+//
+// Everything a fiber does runs on the loop's thread: resume() is called only
+// from there (by the reactor's callbacks or when the call starts), so the
+// body's state needs no lock.  A fiber never runs host-language code on its
+// own stack: results are turned into host objects after it switched back.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+#include "link/pools.hpp"
+
+namespace orv {
+
+// The event loop an awaitable call runs on.
+class Reactor {
+ public:
+  virtual ~Reactor() = default;
+  // Runs `fn` on the loop's thread soon.  Any thread may post.
+  virtual void post(std::function<void()> fn) = 0;
+  // Runs `fn` on the loop's thread once `when` has come, unless cancelled
+  // first.  Called on the loop's thread only; ids are never 0.
+  virtual uint64_t callAt(Clock::time_point when, std::function<void()> fn) = 0;
+  virtual void cancelTimer(uint64_t id) = 0;
+};
+
+class Fiber {
+ public:
+  // `body` runs on the fiber's stack and must not throw; `on_done` runs on
+  // the stack of whoever resumed the fiber last, after the body returned, and
+  // may delete the fiber.
+  Fiber(std::shared_ptr<Reactor> reactor, std::function<void()> body,
+        std::function<void()> on_done);
+  ~Fiber();
+  Fiber(const Fiber&) = delete;
+  Fiber& operator=(const Fiber&) = delete;
+
+  // Runs the fiber until it suspends or ends.  Loop thread only.
+  void resume();
+  // The fiber running now on this thread, or nullptr.
+  static Fiber* current();
+  // Switches from the current fiber back to whoever resumed it.
+  static void suspend();
+
+  const std::shared_ptr<Reactor>& reactor() const { return reactor_; }
+
+ private:
+  struct Context;
+  static void entry(unsigned lo, unsigned hi);
+
+  std::shared_ptr<Reactor> reactor_;
+  std::function<void()> body_;
+  std::function<void()> on_done_;
+  std::unique_ptr<Context> ctx_;
+  bool done_ = false;
+};
+
+// The waits of a body running on a fiber, with the results of their thread
+// counterparts in EchoPool.
+EchoPool::WaitResult fiberWaitPop(EchoPool& pool, int64_t key, Clock::time_point deadline,
+                                  Bytes& out, CancelToken* tok);
+EchoPool::WaitResult fiberSleepUntil(EchoPool& pool, Clock::time_point deadline, CancelToken* tok);
+
+}  // namespace orv

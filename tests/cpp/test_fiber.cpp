@@ -1,0 +1,181 @@
+// Awaitable exchanges on fibers: many calls pending on one thread, each ended
+// by its reply, its deadline, a cancel or the device's close.
+#include <dirent.h>
+#include <gtest/gtest.h>
+
+#include <condition_variable>
+#include <deque>
+#include <map>
+#include <thread>
+
+#include "link/device.hpp"
+#include "link/error.hpp"
+#include "link/fiber.hpp"
+#include "sim/device.hpp"
+#include "sim/simulator.hpp"
+
+using namespace orv;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr int kSilentCmd = 120;  // a command no handler answers
+
+// A loop on the test's thread: posted work and timers, nothing else.
+class TestLoop : public Reactor {
+ public:
+  void post(std::function<void()> fn) override {
+    {
+      std::lock_guard lk(m_);
+      posted_.push_back(std::move(fn));
+    }
+    cv_.notify_one();
+  }
+  uint64_t callAt(Clock::time_point when, std::function<void()> fn) override {
+    timers_[{when, ++next_}] = std::move(fn);
+    return next_;
+  }
+  void cancelTimer(uint64_t id) override {
+    std::erase_if(timers_, [id](const auto& t) { return t.first.second == id; });
+  }
+  // Runs until `done` holds or `limit` seconds pass; false on the limit.
+  bool runUntil(const std::function<bool()>& done, double limit) {
+    const auto end = Clock::now() + std::chrono::duration_cast<Clock::duration>(
+                                        std::chrono::duration<double>(limit));
+    while (!done()) {
+      if (Clock::now() >= end) return false;
+      std::deque<std::function<void()>> work;
+      {
+        std::unique_lock lk(m_);
+        auto until = timers_.empty() ? end : std::min(end, timers_.begin()->first.first);
+        cv_.wait_until(lk, until, [&] { return !posted_.empty(); });
+        work.swap(posted_);
+      }
+      for (auto& fn : work) fn();
+      while (!timers_.empty() && timers_.begin()->first.first <= Clock::now()) {
+        auto fn = std::move(timers_.begin()->second);
+        timers_.erase(timers_.begin());
+        fn();
+      }
+    }
+    return true;
+  }
+
+ private:
+  std::mutex m_;
+  std::condition_variable cv_;
+  std::deque<std::function<void()>> posted_;
+  std::map<std::pair<Clock::time_point, uint64_t>, std::function<void()>> timers_;
+  uint64_t next_ = 0;
+};
+
+size_t threadCount() {
+  size_t n = 0;
+  if (DIR* d = opendir("/proc/self/task")) {
+    while (readdir(d)) ++n;
+    closedir(d);
+  }
+  return n;
+}
+
+// One awaitable call: its body on a fiber, its outcome kept.
+struct Call {
+  std::unique_ptr<Fiber> fiber;
+  bool done = false;
+  Bytes reply;
+  std::exception_ptr error;
+};
+
+class Fibers : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    sim_dev_ = &sim_.addDevice({.model = "Trellis"});
+    dev_ = std::make_unique<ETHDevice>(false);
+    dev_->connect("127.0.0.1", sim_dev_->cmdPort(), false);
+  }
+  void TearDown() override {
+    dev_->close(false);
+    sim_.stop();
+  }
+  // Starts echoPacketWithRetryAsync on a fiber of the loop.
+  std::unique_ptr<Call> start(int cmd, Bytes out, int retries, double timeout,
+                              CancelToken* tok = nullptr) {
+    auto c = std::make_unique<Call>();
+    Call* raw = c.get();
+    c->fiber = std::make_unique<Fiber>(
+        loop_,
+        [this, raw, cmd, out, retries, timeout, tok] {
+          try {
+            raw->reply = dev_->echoPacketWithRetryAsync(cmd, out, retries, timeout, tok);
+          } catch (...) {
+            raw->error = std::current_exception();
+          }
+        },
+        [raw] { raw->done = true; });
+    c->fiber->resume();
+    return c;
+  }
+  template <class E>
+  static void expectError(const Call& c) {
+    ASSERT_TRUE(c.error);
+    EXPECT_THROW(std::rethrow_exception(c.error), E);
+  }
+
+  sim::Simulator sim_;
+  sim::SimDevice* sim_dev_ = nullptr;
+  std::unique_ptr<ETHDevice> dev_;
+  std::shared_ptr<TestLoop> loop_ = std::make_shared<TestLoop>();
+};
+
+TEST_F(Fibers, ManyPendingCallsOnOneThreadEachGetAReply) {
+  const size_t threads = threadCount();
+  std::vector<std::unique_ptr<Call>> calls;
+  for (int i = 0; i < 300; ++i) calls.push_back(start(GET_DRIVER_INFO, {0}, 3, 3));
+  EXPECT_EQ(threadCount(), threads);  // a pending call holds no thread
+  ASSERT_TRUE(loop_->runUntil(
+      [&] { return std::all_of(calls.begin(), calls.end(), [](auto& c) { return c->done; }); },
+      20));
+  const std::string info = sim_dev_->config().driver_info;
+  for (auto& c : calls) {
+    ASSERT_FALSE(c->error);
+    EXPECT_EQ(std::string(c->reply.begin(), c->reply.end()), info);
+  }
+  EXPECT_EQ(sim_dev_->packets().size(), 300u);
+}
+
+TEST_F(Fibers, SilentDeviceEndsByTheDeadlineAfterEachAttempt) {
+  sim_dev_->faults().neverAnswer(kSilentCmd);
+  auto start_t = Clock::now();
+  auto c = start(kSilentCmd, {1}, 1, RETRY_TIMEOUT + 0.2);
+  ASSERT_TRUE(loop_->runUntil([&] { return c->done; }, 10));
+  const double took = std::chrono::duration<double>(Clock::now() - start_t).count();
+  expectError<AsyncTimeout>(*c);
+  EXPECT_GE(took, RETRY_TIMEOUT + 0.2);
+  EXPECT_LT(took, RETRY_TIMEOUT + 3);
+  EXPECT_EQ(sim_dev_->packets().size(), 1u);
+}
+
+TEST_F(Fibers, CancelAndCloseEndPendingCallsAtOnce) {
+  sim_dev_->faults().neverAnswer(kSilentCmd);
+  CancelToken tok;
+  auto cancelled = start(kSilentCmd, {1}, 3, 30, &tok);
+  auto closed = start(kSilentCmd, {2}, 3, 30);
+  std::thread other([&] {
+    std::this_thread::sleep_for(50ms);
+    tok.cancel();
+    std::this_thread::sleep_for(50ms);
+    dev_->close(false);
+  });
+  const bool ended = loop_->runUntil([&] { return cancelled->done && closed->done; }, 5);
+  other.join();
+  ASSERT_TRUE(ended);
+  expectError<Cancelled>(*cancelled);
+  ASSERT_TRUE(closed->error);
+  try {
+    std::rethrow_exception(closed->error);
+  } catch (const Error& e) {
+    EXPECT_EQ(e.id(), ErrorId::DeviceClosedError);
+  }
+}
+
+}  // namespace
