@@ -263,7 +263,9 @@ int SystemModule::_setEEPROMByte(const Call& c, const Value& page_number, const 
   return c.exchangeStatus(SET_EEPROM_BYTE, data_out, 0);
 }
 
-int SystemModule::_resetFactory(const Call& c) { return c.exchangeStatus(RESET_FACTORY, kNoData, 0); }
+int SystemModule::_resetFactory(const Call& c) {
+  return c.exchangeStatus(RESET_FACTORY, kNoData, 0);
+}
 
 std::string SystemModule::_getThreads(const Call& c) {
   std::string s = convertU8ListToStr(c.exchange(GET_THREADS, kNoData));
