@@ -11,9 +11,9 @@ namespace orv {
 using namespace std::chrono_literals;
 
 namespace {
-Clock::duration seconds(double s) {
-  return std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(s));
-}
+// `s` seconds from now, saturated (see deadlineAfter): an infinite or huge
+// timeout waits for its reply, a NaN one ends at once.
+Clock::time_point fromNow(double s) { return deadlineAfter(Clock::now(), s); }
 }  // namespace
 
 // ---- Gate --------------------------------------------------------------------
@@ -233,19 +233,43 @@ void Device::stopLinks(std::initializer_list<Link*> links) {
 }
 
 void Device::throwIfClosed() const {
-  if (killed_.load()) raise(ErrorId::DeviceClosedError);
+  if (killed_.load() || closing_.load()) raise(ErrorId::DeviceClosedError);
 }
 
 // ---- Device: the exchange ------------------------------------------------------
 
 void Device::sendPacketWithoutReply(int cmd, std::span<const uint8_t> data_out) {
+  try {
+    sendBefore(cmd, data_out, fromNow(PACKET_TIMEOUT));
+  } catch (const SendTimeout&) {
+    raise(ErrorId::ReceivePacketTimeoutError, "The device took no packet in time.");
+  }
+}
+
+void Device::sendBefore(int cmd, std::span<const uint8_t> data_out, Clock::time_point deadline) {
   throwIfClosed();
   Link* link = commandLink();
   std::shared_ptr<Client> client = link ? link->client() : nullptr;
-  if (!client) raise(ErrorId::LinkNotOpenError);
+  if (!client) {
+    throwIfClosed();  // a close took the link away meanwhile
+    raise(ErrorId::LinkNotOpenError);
+  }
   const Bytes packet = preparePacket(cmd, data_out);
-  std::lock_guard lk(link->send_m);
-  client->sendPacket(packet);
+  try {
+    // One packet on the wire at a time; a sender stuck behind a device that
+    // stopped reading holds the others no longer than their own deadlines.
+    std::unique_lock lk(link->send_m, std::defer_lock);
+    if (deadline == Clock::time_point::max())
+      lk.lock();
+    else if (!lk.try_lock_until(deadline))
+      throw SendTimeout();
+    client->sendPacket(packet, deadline);
+  } catch (...) {
+    // A close shuts the socket (broken pipe) or drops the client under the
+    // send: the caller sees the close, not its traces.
+    throwIfClosed();
+    throw;
+  }
 }
 
 namespace {
@@ -256,25 +280,38 @@ namespace {
 }  // namespace
 
 Bytes Device::getReplyFromPool(int64_t key, double timeout, CancelToken* tok) {
-  // A reply is taken until `timeout`; a missing one is reported one polling
-  // period (a tenth of the timeout) later, as the polling loop always did.
   if (!(timeout > 0))
     raise(ErrorId::InputDataNotInRangeError, "The reply timeout must be greater than 0 seconds.");
-  const auto start = Clock::now();
+  return waitReply(key, Clock::now(), timeout, tok);
+}
+
+Bytes Device::waitReply(int64_t key, Clock::time_point start, double timeout, CancelToken* tok) {
+  // A reply is taken until `timeout`; a missing one is reported one polling
+  // period (a tenth of the timeout) later, as the polling loop always did.
   Bytes out;
-  auto r = echo_.waitPop(key, start + seconds(timeout), out, tok);
+  auto r = echo_.waitPop(key, deadlineAfter(start, timeout), out, tok);
   if (r == EchoPool::WaitResult::Taken) return out;
   if (r != EchoPool::WaitResult::TimedOut) waitFailed(r);
-  r = echo_.sleepUntil(start + seconds(timeout * 1.1), tok);
+  r = echo_.sleepUntil(deadlineAfter(start, timeout * 1.1), tok);
   if (r != EchoPool::WaitResult::TimedOut) waitFailed(r);
+  throwIfClosed();
   raise(ErrorId::ReceivePacketTimeoutError);
 }
 
 Bytes Device::echoPacket(int cmd, std::span<const uint8_t> data_out, double timeout,
                          CancelToken* tok) {
   const int64_t key = echoKey(cmd, data_out);
-  sendPacketWithoutReply(cmd, data_out);
-  return getReplyFromPool(key, timeout, tok);
+  if (!(timeout > 0))
+    raise(ErrorId::InputDataNotInRangeError, "The reply timeout must be greater than 0 seconds.");
+  // The attempt's time runs from before the send: a device that takes no
+  // packet fails the attempt like one that sends no reply.
+  const auto start = Clock::now();
+  try {
+    sendBefore(cmd, data_out, deadlineAfter(start, timeout));
+  } catch (const SendTimeout&) {
+    raise(ErrorId::ReceivePacketTimeoutError, "The device took no packet in time.");
+  }
+  return waitReply(key, start, timeout, tok);
 }
 
 Bytes Device::echoPacketWithRetry(int cmd, std::span<const uint8_t> data_out, double timeout,
@@ -301,11 +338,19 @@ Bytes Device::echoPacketWithRetry(int cmd, std::span<const uint8_t> data_out, do
 std::optional<Bytes> Device::echoPacketAsync(int cmd, std::span<const uint8_t> data_out,
                                              double timeout, CancelToken* tok) {
   const int64_t key = echoKey(cmd, data_out);
-  sendPacketWithoutReply(cmd, data_out);
+  const auto deadline = fromNow(timeout);
+  try {
+    sendBefore(cmd, data_out, deadline);
+  } catch (const SendTimeout&) {
+    return std::nullopt;  // the attempt's time ran out before the packet went
+  }
   Bytes out;
-  auto r = echo_.waitPop(key, Clock::now() + seconds(std::max(timeout, 0.0)), out, tok);
+  auto r = echo_.waitPop(key, deadline, out, tok);
   if (r == EchoPool::WaitResult::Taken) return out;
-  if (r == EchoPool::WaitResult::TimedOut) return std::nullopt;
+  if (r == EchoPool::WaitResult::TimedOut) {
+    throwIfClosed();
+    return std::nullopt;
+  }
   waitFailed(r);
 }
 
@@ -327,11 +372,14 @@ Bytes Device::echoPacketWithRetryAsync(int cmd, std::span<const uint8_t> data_ou
     count += 1;
   }
   if (value) return std::move(*value);
-  const double remaining = std::max(timeout - RETRY_TIMEOUT * count, 0.0);
+  const double remaining = timeout - RETRY_TIMEOUT * count;
   Bytes out;
-  auto r = echo_.waitPop(echoKey(cmd, data_out), Clock::now() + seconds(remaining), out, tok);
+  auto r = echo_.waitPop(echoKey(cmd, data_out), fromNow(remaining), out, tok);
   if (r == EchoPool::WaitResult::Taken) return out;
-  if (r == EchoPool::WaitResult::TimedOut) throw AsyncTimeout();
+  if (r == EchoPool::WaitResult::TimedOut) {
+    throwIfClosed();
+    throw AsyncTimeout();
+  }
   waitFailed(r);
 }
 
@@ -344,7 +392,7 @@ std::set<Bytes> Device::broadcastPacket(int cmd, std::span<const uint8_t> data_o
   const Bytes packet = preparePacket(cmd, data_out);
   for (int i = 0; i < NUM_BCST_RETRIES; ++i) udp->sendBcstPacket(packet);
   // Answers are collected by the UDP thread for the whole window.
-  auto r = echo_.sleepUntil(Clock::now() + seconds(bcst_window_), tok);
+  auto r = echo_.sleepUntil(fromNow(bcst_window_), tok);
   if (r != EchoPool::WaitResult::TimedOut) waitFailed(r);
   return bcst_.get(cmd);
 }
