@@ -78,6 +78,7 @@ void SimDevice::stop() {
   ticker_->join();
   if (data_link_) data_link_->join();
   cmd_link_->join();
+  stopper_->release();
   rec_cv_.notify_all();
 }
 

@@ -66,7 +66,8 @@ class TcpLink : public LinkEnd {
   Stopper& stopper_;
   OnPacket on_packet_;
   int listen_fd_ = -1;
-  int kick_fd_ = -1;  // wakes a writer blocked on a full socket
+  int kick_fd_ = -1;   // wakes a writer blocked on a full socket
+  std::mutex kick_m_;  // closeHost's kick against join closing kick_fd_
   int port_ = 0;
   std::thread thread_;
   Splitter splitter_;  // used by the link thread only

@@ -24,11 +24,19 @@ void Stopper::stop() {
     if (stopped_.exchange(true)) return;
   }
   cv_.notify_all();
+  std::lock_guard lk(m_);
+  if (fd_ < 0) return;
   const uint64_t one = 1;
   ssize_t n;
   do {
     n = ::write(fd_, &one, sizeof one);
   } while (n < 0 && errno == EINTR);
+}
+
+void Stopper::release() {
+  std::lock_guard lk(m_);
+  if (fd_ >= 0) ::close(fd_);
+  fd_ = -1;
 }
 
 bool Stopper::sleepFor(std::chrono::microseconds d) {

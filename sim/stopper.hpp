@@ -22,6 +22,8 @@ class Stopper {
   int fd() const { return fd_; }
   bool stopped() const { return stopped_.load(std::memory_order_acquire); }
   void stop();
+  // Closes the eventfd once every thread that polls it has been joined.
+  void release();
 
   // Sleeps; false when the stop came first.
   bool sleepFor(std::chrono::microseconds d);

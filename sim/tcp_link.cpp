@@ -43,11 +43,7 @@ TcpLink::TcpLink(Channel ch, const std::string& host, int port, Stopper& stopper
   }
 }
 
-TcpLink::~TcpLink() {
-  join();
-  if (listen_fd_ >= 0) ::close(listen_fd_);
-  if (kick_fd_ >= 0) ::close(kick_fd_);
-}
+TcpLink::~TcpLink() { join(); }
 
 void TcpLink::start() {
   thread_ = std::thread([this] { run(); });
@@ -55,9 +51,13 @@ void TcpLink::start() {
 
 void TcpLink::join() {
   if (thread_.joinable()) thread_.join();
-  std::lock_guard lk(write_m_);
+  // A stopped device refuses new hosts at once and holds no descriptor.
+  std::scoped_lock lk(write_m_, kick_m_);
   const int fd = conn_fd_.exchange(-1);
   if (fd >= 0) ::close(fd);
+  if (listen_fd_ >= 0) ::close(listen_fd_);
+  if (kick_fd_ >= 0) ::close(kick_fd_);
+  listen_fd_ = kick_fd_ = -1;
 }
 
 void TcpLink::run() {
@@ -151,8 +151,13 @@ bool TcpLink::write(std::span<const uint8_t> bytes, int split_bytes,
 
 void TcpLink::closeHost() {
   closing_ = true;
-  const uint64_t kick = 1;
-  [[maybe_unused]] ssize_t w = ::write(kick_fd_, &kick, sizeof kick);
+  {
+    std::lock_guard kl(kick_m_);
+    const uint64_t kick = 1;
+    if (kick_fd_ >= 0) {
+      [[maybe_unused]] ssize_t w = ::write(kick_fd_, &kick, sizeof kick);
+    }
+  }
   std::lock_guard lk(write_m_);
   const int fd = conn_fd_.load();
   // The link thread sees the end of the stream and closes the socket; the

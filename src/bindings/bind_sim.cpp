@@ -35,7 +35,12 @@ py::bytes toPy(const Bytes& b) {
 Bytes toBytes(const orv::Value& v) { return v.toBytes(); }
 
 std::chrono::milliseconds toMs(double seconds) {
-  return std::chrono::milliseconds(static_cast<int64_t>(std::max(0.0, seconds) * 1000.0));
+  // Saturated at a year: an infinite wait is as good as that, and the cast
+  // of an infinite or NaN value is undefined.
+  constexpr double kYearMs = 365.0 * 24 * 3600 * 1000;
+  const double ms = seconds * 1000.0;
+  if (!(ms > 0)) return std::chrono::milliseconds(0);
+  return std::chrono::milliseconds(static_cast<int64_t>(std::min(ms, kYearMs)));
 }
 
 Link toLink(const py::object& o) {

@@ -155,6 +155,8 @@ py::object exceptionObject(std::exception_ptr p) {
     return py::module_::import("asyncio").attr("CancelledError")();
   } catch (const usb::Timeout& e) {
     return builtin("TimeoutError")(e.what());
+  } catch (const SendTimeout& e) {
+    return builtin("TimeoutError")(e.what());
   } catch (const usb::Failure& e) {
     return builtin("OSError")(e.what());
   } catch (...) {

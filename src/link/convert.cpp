@@ -279,6 +279,15 @@ std::string convertU8ListToStr(const Value& int_list) {
   return convertU8ListToStr(int_list.toBytes());
 }
 
+std::string replyText(int cmd, std::span<const uint8_t> data_in) {
+  try {
+    return convertU8ListToStr(data_in);
+  } catch (const ValueError& e) {
+    raise(ErrorId::ReplyFormatError,
+          "The reply of command " + std::to_string(cmd) + " is no UTF-8 text: " + e.what());
+  }
+}
+
 std::vector<int64_t> convertStrToU8List(std::string_view str_) {
   const std::u32string cps = decodeUtf8(str_);
   return std::vector<int64_t>(cps.begin(), cps.end());

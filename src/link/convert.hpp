@@ -143,6 +143,9 @@ std::string encodeUtf8(std::u32string_view text);
 std::string convertU8ListToStr(std::span<const uint8_t> int_list);
 inline std::string convertU8ListToStr(const Bytes& b) { return convertU8ListToStr(std::span(b)); }
 std::string convertU8ListToStr(const Value& int_list);
+// convertU8ListToStr on the text of a reply to `cmd`: bytes that are no UTF-8
+// make a malformed reply (ReplyFormatError naming the command and the byte).
+std::string replyText(int cmd, std::span<const uint8_t> data_in);
 
 // The code point of every character of a UTF-8 text, no range check.
 std::vector<int64_t> convertStrToU8List(std::string_view str_);

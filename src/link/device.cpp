@@ -13,9 +13,9 @@ namespace orv {
 using namespace std::chrono_literals;
 
 namespace {
-Clock::duration seconds(double s) {
-  return std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(s));
-}
+// `s` seconds from now, saturated (see deadlineAfter): an infinite or huge
+// timeout waits for its reply, a NaN one ends at once.
+Clock::time_point fromNow(double s) { return deadlineAfter(Clock::now(), s); }
 }  // namespace
 
 // ---- Gate --------------------------------------------------------------------
@@ -221,31 +221,55 @@ void Device::stopLinks(std::initializer_list<Link*> links) {
 }
 
 void Device::throwIfClosed() const {
-  if (killed_.load()) raise(ErrorId::DeviceClosedError);
+  if (killed_.load() || closing_.load()) raise(ErrorId::DeviceClosedError);
 }
 
 // ---- Device: the exchange ------------------------------------------------------
 
 void Device::sendPacketWithoutReply(int cmd, std::span<const uint8_t> data_out) {
+  try {
+    sendBefore(cmd, data_out, fromNow(PACKET_TIMEOUT));
+  } catch (const SendTimeout&) {
+    raise(ErrorId::ReceivePacketTimeoutError, "The device took no packet in time.");
+  }
+}
+
+void Device::sendBefore(int cmd, std::span<const uint8_t> data_out, Clock::time_point deadline) {
   throwIfClosed();
   Link* link = commandLink();
   std::shared_ptr<Client> client = link ? link->client() : nullptr;
-  if (!client) raise(ErrorId::LinkNotOpenError);
+  if (!client) {
+    throwIfClosed();  // a close took the link away meanwhile
+    raise(ErrorId::LinkNotOpenError);
+  }
   const Bytes packet = preparePacket(cmd, data_out);
-  std::lock_guard lk(link->send_m);
-  client->sendPacket(packet);
+  try {
+    // One packet on the wire at a time; a sender stuck behind a device that
+    // stopped reading holds the others no longer than their own deadlines.
+    std::unique_lock lk(link->send_m, std::defer_lock);
+    if (deadline == Clock::time_point::max())
+      lk.lock();
+    else if (!lk.try_lock_until(deadline))
+      throw SendTimeout();
+    client->sendPacket(packet, deadline);
+  } catch (...) {
+    // A close shuts the socket (broken pipe) or drops the client under the
+    // send: the caller sees the close, not its traces.
+    throwIfClosed();
+    throw;
+  }
 }
 
 namespace {
 // A wait sleeps the calling thread, or on a fiber (an awaitable call) parks
 // the fiber and gives the loop back.
-EchoPool::WaitResult waitReply(EchoPool& pool, int64_t key, Clock::time_point deadline, Bytes& out,
-                               CancelToken* tok) {
+EchoPool::WaitResult poolWait(EchoPool& pool, int64_t key, Clock::time_point deadline, Bytes& out,
+                              CancelToken* tok) {
   if (Fiber::current()) return fiberWaitPop(pool, key, deadline, out, tok);
   return pool.waitPop(key, deadline, out, tok);
 }
 
-EchoPool::WaitResult sleepUntil(EchoPool& pool, Clock::time_point deadline, CancelToken* tok) {
+EchoPool::WaitResult poolSleep(EchoPool& pool, Clock::time_point deadline, CancelToken* tok) {
   if (Fiber::current()) return fiberSleepUntil(pool, deadline, tok);
   return pool.sleepUntil(deadline, tok);
 }
@@ -257,25 +281,38 @@ EchoPool::WaitResult sleepUntil(EchoPool& pool, Clock::time_point deadline, Canc
 }  // namespace
 
 Bytes Device::getReplyFromPool(int64_t key, double timeout, CancelToken* tok) {
-  // A reply is taken until `timeout`; a missing one is reported one polling
-  // period (a tenth of the timeout) later, as the polling loop always did.
   if (!(timeout > 0))
     raise(ErrorId::InputDataNotInRangeError, "The reply timeout must be greater than 0 seconds.");
-  const auto start = Clock::now();
+  return waitReply(key, Clock::now(), timeout, tok);
+}
+
+Bytes Device::waitReply(int64_t key, Clock::time_point start, double timeout, CancelToken* tok) {
+  // A reply is taken until `timeout`; a missing one is reported one polling
+  // period (a tenth of the timeout) later, as the polling loop always did.
   Bytes out;
-  auto r = waitReply(echo_, key, start + seconds(timeout), out, tok);
+  auto r = poolWait(echo_, key, deadlineAfter(start, timeout), out, tok);
   if (r == EchoPool::WaitResult::Taken) return out;
   if (r != EchoPool::WaitResult::TimedOut) waitFailed(r);
-  r = sleepUntil(echo_, start + seconds(timeout * 1.1), tok);
+  r = poolSleep(echo_, deadlineAfter(start, timeout * 1.1), tok);
   if (r != EchoPool::WaitResult::TimedOut) waitFailed(r);
+  throwIfClosed();
   raise(ErrorId::ReceivePacketTimeoutError);
 }
 
 Bytes Device::echoPacket(int cmd, std::span<const uint8_t> data_out, double timeout,
                          CancelToken* tok) {
   const int64_t key = echoKey(cmd, data_out);
-  sendPacketWithoutReply(cmd, data_out);
-  return getReplyFromPool(key, timeout, tok);
+  if (!(timeout > 0))
+    raise(ErrorId::InputDataNotInRangeError, "The reply timeout must be greater than 0 seconds.");
+  // The attempt's time runs from before the send: a device that takes no
+  // packet fails the attempt like one that sends no reply.
+  const auto start = Clock::now();
+  try {
+    sendBefore(cmd, data_out, deadlineAfter(start, timeout));
+  } catch (const SendTimeout&) {
+    raise(ErrorId::ReceivePacketTimeoutError, "The device took no packet in time.");
+  }
+  return waitReply(key, start, timeout, tok);
 }
 
 Bytes Device::echoPacketWithRetry(int cmd, std::span<const uint8_t> data_out, double timeout,
@@ -302,18 +339,26 @@ Bytes Device::echoPacketWithRetry(int cmd, std::span<const uint8_t> data_out, do
 std::optional<Bytes> Device::echoPacketAsync(int cmd, std::span<const uint8_t> data_out,
                                              double timeout, CancelToken* tok) {
   const int64_t key = echoKey(cmd, data_out);
-  sendPacketWithoutReply(cmd, data_out);
+  const auto deadline = fromNow(timeout);
+  try {
+    sendBefore(cmd, data_out, deadline);
+  } catch (const SendTimeout&) {
+    return std::nullopt;  // the attempt's time ran out before the packet went
+  }
   Bytes out;
-  auto r = waitReply(echo_, key, Clock::now() + seconds(std::max(timeout, 0.0)), out, tok);
+  auto r = poolWait(echo_, key, deadline, out, tok);
   if (r == EchoPool::WaitResult::Taken) return out;
-  if (r == EchoPool::WaitResult::TimedOut) return std::nullopt;
+  if (r == EchoPool::WaitResult::TimedOut) {
+    throwIfClosed();
+    return std::nullopt;
+  }
   waitFailed(r);
 }
 
 Bytes Device::getReplyFromPoolAsync(int64_t key, CancelToken* tok) {
   throwIfClosed();
   Bytes out;
-  auto r = waitReply(echo_, key, Clock::time_point::max(), out, tok);
+  auto r = poolWait(echo_, key, Clock::time_point::max(), out, tok);
   if (r == EchoPool::WaitResult::Taken) return out;
   waitFailed(r);
 }
@@ -328,11 +373,14 @@ Bytes Device::echoPacketWithRetryAsync(int cmd, std::span<const uint8_t> data_ou
     count += 1;
   }
   if (value) return std::move(*value);
-  const double remaining = std::max(timeout - RETRY_TIMEOUT * count, 0.0);
+  const double remaining = timeout - RETRY_TIMEOUT * count;
   Bytes out;
-  auto r = waitReply(echo_, echoKey(cmd, data_out), Clock::now() + seconds(remaining), out, tok);
+  auto r = poolWait(echo_, echoKey(cmd, data_out), fromNow(remaining), out, tok);
   if (r == EchoPool::WaitResult::Taken) return out;
-  if (r == EchoPool::WaitResult::TimedOut) throw AsyncTimeout();
+  if (r == EchoPool::WaitResult::TimedOut) {
+    throwIfClosed();
+    throw AsyncTimeout();
+  }
   waitFailed(r);
 }
 
@@ -345,7 +393,7 @@ std::set<Bytes> Device::broadcastPacket(int cmd, std::span<const uint8_t> data_o
   const Bytes packet = preparePacket(cmd, data_out);
   for (int i = 0; i < NUM_BCST_RETRIES; ++i) udp->sendBcstPacket(packet);
   // Answers are collected by the UDP thread for the whole window.
-  auto r = sleepUntil(echo_, Clock::now() + seconds(bcst_window_), tok);
+  auto r = poolSleep(echo_, fromNow(bcst_window_), tok);
   if (r != EchoPool::WaitResult::TimedOut) waitFailed(r);
   return bcst_.get(cmd);
 }

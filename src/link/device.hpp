@@ -67,7 +67,7 @@ struct Link {
   Gate gate;
   std::thread thread;
   std::atomic<bool> alive{false};
-  std::mutex send_m;  // one packet on the wire at a time
+  std::timed_mutex send_m;  // one packet on the wire at a time
 
  private:
   mutable std::mutex m_;
@@ -104,6 +104,10 @@ class Device {
   virtual void disconnect(bool verbose = true) = 0;
 
   // ---- the exchange (blocking) ----
+  // A send waits at most PACKET_TIMEOUT for a device that stopped reading
+  // (ReceivePacketTimeoutError); the exchanges below bound it by their own
+  // timeout.  A call on a device that is being closed, or is closed, fails
+  // with DeviceClosedError wherever it was.
   void sendPacketWithoutReply(int cmd, std::span<const uint8_t> data_out);
   Bytes echoPacket(int cmd, std::span<const uint8_t> data_out, double timeout,
                    CancelToken* tok = nullptr);
@@ -135,6 +139,15 @@ class Device {
   virtual Link* commandLink() { return nullptr; }
   virtual UDPClient* broadcastClient() { return nullptr; }
 
+  // Held by close for its whole run: a second close waits for the first and
+  // then finds the device killed.  Recursive, as WifiDevice::close runs
+  // NetworkDevice::close.
+  std::unique_lock<std::recursive_mutex> lockClose() {
+    return std::unique_lock<std::recursive_mutex>(close_m_);
+  }
+  // Marks the device as being closed, before close takes its links down, so
+  // that a call failing on a link going down reports DeviceClosedError.
+  void beginClose() { closing_.store(true); }
   // Device.close at the base: sets killed, prints nothing itself.
   bool closeBase();
   void startThread(Link& link);
@@ -152,8 +165,15 @@ class Device {
  private:
   void recvLoop(Link& link);
   void throwIfClosed() const;
+  // Sends one packet on the command link, giving up at `deadline`
+  // (SendTimeout).
+  void sendBefore(int cmd, std::span<const uint8_t> data_out, Clock::time_point deadline);
+  // The reply for key, looked for until `timeout` seconds after `start`.
+  Bytes waitReply(int64_t key, Clock::time_point start, double timeout, CancelToken* tok);
 
   std::string class_name_;
+  std::recursive_mutex close_m_;
+  std::atomic<bool> closing_{false};
   std::atomic<bool> killed_{false};
   std::vector<Link*> links_;
   EchoPool echo_;

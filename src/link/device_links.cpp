@@ -62,7 +62,9 @@ void USBDevice::disconnect(bool verbose) {
 }
 
 void USBDevice::close(bool verbose) {
+  auto lk = lockClose();
   if (killed()) return;
+  beginClose();
   if (cmd_.status) disconnect();
   closeBase();
   finishClose({&cmd_});
@@ -113,7 +115,9 @@ void NetworkDevice::disconnect(bool verbose) {
 }
 
 void NetworkDevice::close(bool verbose) {
+  auto lk = lockClose();
   if (killed()) return;
+  beginClose();
   if (cmd_.status) NetworkDevice::disconnect();
   closeBase();
   finishClose({&cmd_});
@@ -157,7 +161,9 @@ void WifiDevice::disconnect(bool verbose) {
 }
 
 void WifiDevice::close(bool verbose) {
+  auto lk = lockClose();
   if (killed()) return;
+  beginClose();
   if (cmd_.status || data_.status) disconnect();
   NetworkDevice::close(false);
   finishClose({&data_});
@@ -203,7 +209,9 @@ void BroadcastDevice::disconnect(bool verbose) {
 }
 
 void BroadcastDevice::close(bool verbose) {
+  auto lk = lockClose();
   if (killed()) return;
+  beginClose();
   if (udp_.status) disconnect();
   closeBase();
   finishClose({&udp_});

@@ -17,6 +17,7 @@
 #include <sys/time.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cmath>
@@ -26,6 +27,16 @@
 #include "link/error.hpp"
 
 namespace orv {
+
+SteadyTime deadlineAfter(SteadyTime from, double seconds) {
+  if (!(seconds > 0)) return from;
+  // Half the room left on the clock is still centuries: past it the sum
+  // would overflow (and a double rounds too coarsely to come closer).
+  const double room = std::chrono::duration<double>(SteadyTime::max() - from).count();
+  if (seconds >= room / 2) return SteadyTime::max();
+  return from +
+         std::chrono::duration_cast<SteadyTime::duration>(std::chrono::duration<double>(seconds));
+}
 
 std::vector<RawPacket> Client::recvAndSplitPacket(size_t length) {
   Bytes bytes = recvPacket(length);
@@ -44,6 +55,7 @@ class NetworkClient::Use {
     std::lock_guard lk(c_.use_m_);
     fd_ = c_.fd_.load();
     if (fd_ < 0) raise(ErrorId::LinkNotOpenError);
+    timeout_ = c_.timeout_;
     closing_ = c_.closing_;
     if (!closing_) ++c_.readers_;
   }
@@ -56,10 +68,13 @@ class NetworkClient::Use {
   Use& operator=(const Use&) = delete;
   int fd() const { return fd_; }
   bool closing() const { return closing_; }
+  // The socket's own timeout (setTimeout) when the call began.
+  const std::optional<double>& timeout() const { return timeout_; }
 
  private:
   NetworkClient& c_;
   int fd_ = -1;
+  std::optional<double> timeout_;
   bool closing_ = false;
 };
 
@@ -102,7 +117,8 @@ void setBlocking(int fd, bool blocking) {
 // zero makes the socket non-blocking, anything else bounds each call.
 void applyTimeout(int fd, std::optional<double> timeout) {
   timeval tv{};
-  if (timeout && *timeout > 0) {
+  // A timeout beyond what timeval holds (a year is plenty) blocks.
+  if (timeout && *timeout > 0 && *timeout < 365.0 * 24 * 3600) {
     double whole = std::floor(*timeout);
     tv.tv_sec = static_cast<time_t>(whole);
     tv.tv_usec = static_cast<suseconds_t>(std::ceil((*timeout - whole) * 1e6));
@@ -122,13 +138,32 @@ void applyTimeout(int fd, std::optional<double> timeout) {
   throw OSError(err, what);
 }
 
+// Waits until the socket takes more bytes (or is shut down, which a send
+// then reports) or until `deadline`; false when the deadline passed.
+bool waitWritable(int fd, SteadyTime deadline) {
+  for (;;) {
+    int wait_ms = -1;
+    if (deadline != SteadyTime::max()) {
+      const auto left = deadline - std::chrono::steady_clock::now();
+      if (left <= SteadyTime::duration::zero()) return false;
+      // Rounded up, so that the wait never ends just short of the deadline.
+      const auto ms = std::chrono::ceil<std::chrono::milliseconds>(left).count();
+      wait_ms = static_cast<int>(std::min<int64_t>(ms, 24 * 3600 * 1000));
+    }
+    pollfd p{fd, POLLOUT, 0};
+    const int rc = ::poll(&p, 1, wait_ms);
+    if (rc > 0) return true;
+    if (rc < 0 && errno != EINTR) throw OSError(errno, "poll failed");
+  }
+}
+
 // Connects a fresh socket, waiting at most `seconds`.
 bool connectWithin(int fd, const sockaddr_in& addr, double seconds) {
   setBlocking(fd, false);
   int rc = ::connect(fd, reinterpret_cast<const sockaddr*>(&addr), sizeof addr);
   if (rc == 0) return true;
   if (errno != EINPROGRESS && errno != EINTR) return false;
-  const auto deadline = std::chrono::steady_clock::now() + std::chrono::duration<double>(seconds);
+  const auto deadline = deadlineAfter(std::chrono::steady_clock::now(), seconds);
   for (;;) {
     auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
         deadline - std::chrono::steady_clock::now());
@@ -208,14 +243,36 @@ Bytes NetworkClient::recvPacket(size_t length) {
   return buf;
 }
 
-void NetworkClient::sendPacket(std::span<const uint8_t> packet) {
+void NetworkClient::sendPacket(std::span<const uint8_t> packet, SteadyTime deadline) {
   Use use(*this);
   if (use.closing()) throw OSError(EPIPE, "send failed");
-  ssize_t n;
-  do {
-    n = ::send(use.fd(), packet.data(), packet.size(), MSG_NOSIGNAL);
-  } while (n < 0 && errno == EINTR);
-  if (n < 0) throwIoError(errno, "send failed");
+  // The socket's own timeout (setTimeout) still bounds the call as a socket
+  // timeout; the caller's deadline as a SendTimeout.
+  SteadyTime socket_deadline = SteadyTime::max();
+  if (use.timeout() && *use.timeout() >= 0)
+    socket_deadline = deadlineAfter(std::chrono::steady_clock::now(), *use.timeout());
+  const SteadyTime until = std::min(deadline, socket_deadline);
+  size_t done = 0;
+  while (done < packet.size()) {
+    const ssize_t n =
+        ::send(use.fd(), packet.data() + done, packet.size() - done, MSG_NOSIGNAL | MSG_DONTWAIT);
+    if (n >= 0) {
+      done += static_cast<size_t>(n);
+      continue;
+    }
+    if (errno == EINTR) continue;
+    if (errno != EAGAIN && errno != EWOULDBLOCK) throwIoError(errno, "send failed");
+    if (waitWritable(use.fd(), until)) continue;
+    if (done > 0) {
+      // The device would take the next packet as the rest of this one: the
+      // link is no use any more.  Shut it; the receive thread sees its end.
+      ::shutdown(use.fd(), SHUT_RDWR);
+      raise(ErrorId::NetworkConnectionLostError,
+            "The device stopped reading in the middle of a packet; the link is shut.");
+    }
+    if (deadline <= socket_deadline) throw SendTimeout();
+    throw OSError(ETIMEDOUT, "timed out");
+  }
 }
 
 // ---------------------------------------------------------------------------

@@ -8,6 +8,7 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 #include <condition_variable>
 #include <cstdint>
 #include <memory>
@@ -23,12 +24,31 @@
 
 namespace orv {
 
+using SteadyTime = std::chrono::steady_clock::time_point;
+
+// The moment `seconds` after `from`, saturated: a wait too long for the clock
+// (or infinite) ends at SteadyTime::max(), a NaN, zero or negative one at
+// `from`.
+SteadyTime deadlineAfter(SteadyTime from, double seconds);
+
+// A send that put no byte of its packet on the wire before its deadline (a
+// device that stopped reading); the link is still framed.
+class SendTimeout : public std::runtime_error {
+ public:
+  SendTimeout() : std::runtime_error("the packet could not be sent in time") {}
+};
+
 class Client {
  public:
   virtual ~Client() = default;
   // One read of at most `length` bytes; empty when the peer closed (sockets).
   virtual Bytes recvPacket(size_t length) = 0;
-  virtual void sendPacket(std::span<const uint8_t> packet) = 0;
+  // Writes one whole packet before `deadline`: SendTimeout when none of it
+  // went out.  A packet cut short would leave the device reading the next
+  // one as its rest, so a socket then shuts the link down (the receive
+  // thread sees its end) and raises NetworkConnectionLostError.
+  virtual void sendPacket(std::span<const uint8_t> packet, SteadyTime deadline) = 0;
+  void sendPacket(std::span<const uint8_t> packet) { sendPacket(packet, SteadyTime::max()); }
   // recvPacket, then the splitter; an empty read yields nothing.
   std::vector<RawPacket> recvAndSplitPacket(size_t length);
   Splitter& splitter() { return splitter_; }
@@ -49,7 +69,8 @@ class NetworkClient : public Client {
   bool hasSocket() const { return fd_.load() >= 0; }
   int fd() const { return fd_.load(); }
   Bytes recvPacket(size_t length) override;
-  void sendPacket(std::span<const uint8_t> packet) override;
+  using Client::sendPacket;
+  void sendPacket(std::span<const uint8_t> packet, SteadyTime deadline) override;
 
  protected:
   void adopt(int fd);  // takes a new socket (the old one, if any, is closed)
@@ -101,8 +122,11 @@ class USBClient : public Client {
   std::string takeProductName();
   // One bulk read from USB_EP_IN with a 1 ms timeout; usb::Timeout when idle.
   Bytes recvPacket(size_t length) override;
-  // Pads to USB_PKT_SIZE with zeros and writes in one transfer.
-  void sendPacket(std::span<const uint8_t> packet) override;
+  // Pads to USB_PKT_SIZE with zeros and writes in one transfer, which the
+  // backend bounds (libusb: 1 s); a transfer that times out before the
+  // deadline is SendTimeout too.
+  using Client::sendPacket;
+  void sendPacket(std::span<const uint8_t> packet, SteadyTime deadline) override;
 
   // _getAllUSBDevices: [serial, product] of every attached device of the family.
   static std::vector<std::pair<std::string, std::string>> getAllUSBDevices();

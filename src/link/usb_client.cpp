@@ -81,16 +81,21 @@ Bytes USBClient::recvPacket(size_t length) {
   return buf;
 }
 
-void USBClient::sendPacket(std::span<const uint8_t> packet) {
+void USBClient::sendPacket(std::span<const uint8_t> packet, SteadyTime deadline) {
+  // One transfer, bounded by the backend's own timeout (libusb: 1 s) rather
+  // than by the deadline; a transfer that timed out moved nothing, so the
+  // link stays framed.
+  (void)deadline;
   constexpr size_t kPkt = USB_PKT_SIZE;
-  if (packet.size() >= kPkt) {
-    handle_->bulkWrite(static_cast<uint8_t>(USB_EP_OUT), packet.data(),
-                       static_cast<int>(packet.size()));
-    return;
-  }
   uint8_t padded[kPkt] = {};
-  std::copy(packet.begin(), packet.end(), padded);
-  handle_->bulkWrite(static_cast<uint8_t>(USB_EP_OUT), padded, static_cast<int>(kPkt));
+  const bool whole = packet.size() >= kPkt;
+  if (!whole) std::copy(packet.begin(), packet.end(), padded);
+  try {
+    handle_->bulkWrite(static_cast<uint8_t>(USB_EP_OUT), whole ? packet.data() : padded,
+                       static_cast<int>(whole ? packet.size() : kPkt));
+  } catch (const usb::Timeout&) {
+    throw SendTimeout();
+  }
 }
 
 std::vector<std::pair<std::string, std::string>> USBClient::getAllUSBDevices() {

@@ -68,7 +68,7 @@ std::vector<std::vector<std::string>> BroadcastModule::Bcst_enumerateNetworkDevi
   for (const Bytes& data_in : data_in_set) {
     needBytes(data_in, 14, GET_DEVICE_INFO);
     dev_info_list.push_back({dotted(&data_in[0]), dotted(&data_in[4]), macText(&data_in[8]),
-                             convertU8ListToStr(std::span(data_in).subspan(14))});
+                             replyText(GET_DEVICE_INFO, std::span(data_in).subspan(14))});
   }
   return dev_info_list;
 }

@@ -75,7 +75,7 @@ void SystemBased::_checkTrellisSlot(const Value& slot) {
 
 std::vector<std::string> SystemModule::Sys_getDriverInfo(const Call& c) {
   const Bytes data_in = c.exchange(GET_DRIVER_INFO, {0});
-  auto parts = splitAt(convertU8ListToStr(data_in), '_');
+  auto parts = splitAt(replyText(GET_DRIVER_INFO, data_in), '_');
   driver_info.set(Value::listOf(parts));
   return parts;
 }
@@ -89,7 +89,7 @@ std::string SystemModule::Sys_getPythonVersion(const Call& c) {
 std::string SystemModule::Sys_getSerialNumber(const Call& c) {
   const Bytes data_in = c.exchange(GET_SERIAL_NUMBER, kNoData);
   const size_t n = std::min<size_t>(8, data_in.size());
-  std::string s = convertU8ListToStr(std::span<const uint8_t>(data_in.data(), n));
+  std::string s = replyText(GET_SERIAL_NUMBER, std::span<const uint8_t>(data_in.data(), n));
   serial_number.set(s);
   return s;
 }
@@ -97,7 +97,7 @@ std::string SystemModule::Sys_getSerialNumber(const Call& c) {
 std::string SystemModule::_getDriverInfo_dev(const Call& c, const Value& mode) {
   const uint8_t data_out[] = {byteArg(mode)};
   const Bytes data_in = c.exchange(GET_DRIVER_INFO, data_out);
-  std::string s = convertU8ListToStr(data_in);
+  std::string s = replyText(GET_DRIVER_INFO, data_in);
   driver_info.set(Value(s));
   return s;
 }
@@ -268,7 +268,7 @@ int SystemModule::_resetFactory(const Call& c) {
 }
 
 std::string SystemModule::_getThreads(const Call& c) {
-  std::string s = convertU8ListToStr(c.exchange(GET_THREADS, kNoData));
+  std::string s = replyText(GET_THREADS, c.exchange(GET_THREADS, kNoData));
   thread_info.set(s);
   return s;
 }

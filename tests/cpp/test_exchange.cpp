@@ -1,11 +1,18 @@
 // The command exchange and device lifecycle against the simulator on
 // loopback: replies, retries on the wire, timeouts, stale replies,
 // cancellation, threads ending.
+#include <arpa/inet.h>
 #include <dirent.h>
 #include <gtest/gtest.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 #include <chrono>
+#include <functional>
 #include <future>
+#include <latch>
+#include <limits>
 #include <thread>
 
 #include "link/call.hpp"
@@ -32,6 +39,32 @@ size_t countEntries(const char* dir) {
     closedir(d);
   }
   return n;
+}
+
+// Runs fn on a thread of its own; the future holds "" when fn returned, the
+// name of what it threw otherwise.  A call that hangs leaves its thread
+// behind, holding what it captured, and the test fails on the future.
+std::future<std::string> runDetached(std::function<void()> fn) {
+  auto done = std::make_shared<std::promise<std::string>>();
+  auto fut = done->get_future();
+  std::thread([fn = std::move(fn), done] {
+    try {
+      fn();
+      done->set_value("");
+    } catch (const Error& e) {
+      done->set_value(std::string(errorInfo(e.id()).name));
+    } catch (const AsyncTimeout&) {
+      done->set_value("AsyncTimeout");
+    } catch (const std::exception& e) {
+      done->set_value(std::string("std::exception: ") + e.what());
+    }
+  }).detach();
+  return fut;
+}
+
+std::string resultWithin(std::future<std::string>& f, std::chrono::seconds bound) {
+  if (f.wait_for(bound) != std::future_status::ready) return "still running";
+  return f.get();
 }
 
 class Exchange : public ::testing::Test {
@@ -152,6 +185,39 @@ TEST_F(Exchange, CloseFailsAPendingWait) {
   }
 }
 
+TEST_F(Exchange, HugeOrInfiniteTimeoutsWaitForTheReplyAndNaNIsRefusedUnsent) {
+  const Bytes out{0};
+  for (double t : {std::numeric_limits<double>::infinity(), 1e11, 1e300}) {
+    sim_dev_->clearPackets();
+    EXPECT_FALSE(dev_->echoPacketWithRetry(GET_DRIVER_INFO, out, t).empty()) << t;
+    EXPECT_FALSE(dev_->echoPacket(GET_DRIVER_INFO, out, t).empty()) << t;
+    EXPECT_TRUE(dev_->echoPacketAsync(GET_DRIVER_INFO, out, t).has_value()) << t;
+    EXPECT_FALSE(dev_->echoPacketWithRetryAsync(GET_DRIVER_INFO, out, 3, t).empty()) << t;
+    ASSERT_TRUE(sim_dev_->waitForPackets(4, 2s));
+    EXPECT_EQ(sent(GET_DRIVER_INFO), 4u) << t;  // one packet a call: no attempt failed
+    EXPECT_FALSE(dev_->echoPool().contains(GET_DRIVER_INFO)) << t;  // no reply left over
+  }
+  sim_dev_->clearPackets();
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  auto code = [&](auto call) {
+    try {
+      call();
+    } catch (const Error& e) {
+      return e.code();
+    }
+    return 0;
+  };
+  // With retries a timeout of 0 has run out before the first attempt.
+  EXPECT_EQ(code([&] { dev_->echoPacketWithRetry(GET_DRIVER_INFO, out, nan); }),
+            errInputDataNotInRange);
+  EXPECT_EQ(code([&] { dev_->echoPacketWithRetry(GET_DRIVER_INFO, out, 0); }), errPacketTimeout);
+  for (double t : {nan, 0.0, -1.0})
+    EXPECT_EQ(code([&] { dev_->echoPacket(GET_DRIVER_INFO, out, t); }), errInputDataNotInRange)
+        << t;
+  std::this_thread::sleep_for(50ms);
+  EXPECT_EQ(sim_dev_->packetCount(), 0u);
+}
+
 TEST_F(Exchange, StatusTailReturnsNegativeCodesAndCallFlavoursShareTheBody) {
   sim_dev_->setHandler(kSilentCmd, [](sim::Context& ctx, const sim::Request& req) {
     ctx.reply(Bytes{req.data[0], req.data[1]});  // echoes the port, then the status
@@ -233,6 +299,133 @@ TEST(Lifecycle, WifiUsesBothLinksAndUsbGoesThroughTheVirtualBackend) {
   u.close(false);
   EXPECT_TRUE(u.aliveThreads().empty());
   EXPECT_THROW(USBDevice(false).connect("NOSUCH", false), Error);
+}
+
+// ---- a careless caller and a hostile device ---------------------------------------
+
+// One device class, connected to its simulated device where it has one.
+struct DeviceKind {
+  const char* name;
+  const char* model;
+  sim::Link link;
+  std::function<std::shared_ptr<Device>(sim::SimDevice&)> open;
+  bool commands;  // has a command link to exchange on
+};
+
+std::ostream& operator<<(std::ostream& os, const DeviceKind& k) { return os << k.name; }
+
+class CloseRace : public ::testing::TestWithParam<DeviceKind> {};
+
+// Two threads close one device while two others exchange on it: each close
+// returns without error, the messages come once, every exchange ends in
+// DeviceClosedError.
+TEST_P(CloseRace, ConcurrentClosesReturnAndRacingCallsSeeTheDeviceClosed) {
+  const DeviceKind& kind = GetParam();
+  sim::Simulator sim;
+  auto& sd = sim.addDevice({.model = kind.model, .link = kind.link, .serial = "SIMR0001"});
+  constexpr int kRounds = 12;
+  testing::internal::CaptureStdout();
+  for (int round = 0; round < kRounds; ++round) {
+    std::shared_ptr<Device> dev = kind.open(sd);
+    const int n_callers = kind.commands ? 2 : 0;
+    std::latch running(n_callers + 1), go(1);
+    std::vector<std::future<std::string>> callers, closers;
+    for (int i = 0; i < n_callers; ++i)
+      callers.push_back(runDetached([dev, &running] {
+        const Bytes out{0};
+        dev->echoPacketWithRetry(GET_DRIVER_INFO, out, 3);
+        running.count_down();
+        for (;;) dev->echoPacketWithRetry(GET_DRIVER_INFO, out, 3);
+      }));
+    running.arrive_and_wait();
+    for (int i = 0; i < 2; ++i)
+      closers.push_back(runDetached([dev, &go] {
+        go.wait();
+        dev->close(true);
+      }));
+    go.count_down();
+    for (auto& f : closers) EXPECT_EQ(resultWithin(f, 10s), "") << "round " << round;
+    for (auto& f : callers)
+      EXPECT_EQ(resultWithin(f, 10s), "DeviceClosedError") << "round " << round;
+    EXPECT_TRUE(dev->aliveThreads().empty());
+  }
+  const std::string printed = testing::internal::GetCapturedStdout();
+  size_t closed = 0;
+  for (size_t at = printed.find("Closed handle ("); at != std::string::npos;
+       at = printed.find("Closed handle (", at + 1))
+    ++closed;
+  EXPECT_EQ(closed, size_t{kRounds});
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    EveryClass, CloseRace,
+    ::testing::Values(DeviceKind{"ETHDevice", "Trellis", sim::Link::Ethernet,
+                                 [](sim::SimDevice& sd) {
+                                   auto d = std::make_shared<ETHDevice>(false);
+                                   d->connect("127.0.0.1", sd.cmdPort(), false);
+                                   return d;
+                                 },
+                                 true},
+                      DeviceKind{"WifiDevice", "HeronAin", sim::Link::Wifi,
+                                 [](sim::SimDevice& sd) {
+                                   auto d = std::make_shared<WifiDevice>(false);
+                                   d->connect("127.0.0.1", sd.dataPort(), sd.cmdPort(), false);
+                                   return d;
+                                 },
+                                 true},
+                      DeviceKind{"USBDevice", "KestrelAin", sim::Link::Usb,
+                                 [](sim::SimDevice& sd) {
+                                   auto d = std::make_shared<USBDevice>(false);
+                                   d->connect(sd.serial(), false);
+                                   return d;
+                                 },
+                                 true},
+                      // Left unbound: the receive port is fixed and other runs may hold it.
+                      DeviceKind{
+                          "BroadcastDevice", "Trellis", sim::Link::Ethernet,
+                          [](sim::SimDevice&) { return std::make_shared<BroadcastDevice>(false); },
+                          false}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+// A device that takes the connection and never reads: once the socket
+// buffers are full, a call gives up within its own time.
+TEST(StalledDevice, SendsGiveUpWithTheCallsTime) {
+  const int lfd = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+  sockaddr_in a{};
+  a.sin_family = AF_INET;
+  a.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  socklen_t len = sizeof a;
+  ASSERT_EQ(::bind(lfd, reinterpret_cast<sockaddr*>(&a), sizeof a), 0);
+  ASSERT_EQ(::listen(lfd, 1), 0);  // the handshake completes; nobody accepts
+  ASSERT_EQ(::getsockname(lfd, reinterpret_cast<sockaddr*>(&a), &len), 0);
+  auto dev = std::make_shared<ETHDevice>(false);
+  dev->connect("127.0.0.1", ntohs(a.sin_port), false);
+  const Bytes junk(65536, 0);
+  size_t backlog = 0;
+  for (ssize_t n; (n = ::send(dev->clientCmd()->fd(), junk.data(), junk.size(),
+                              MSG_DONTWAIT | MSG_NOSIGNAL)) > 0;)
+    backlog += static_cast<size_t>(n);
+  EXPECT_GT(backlog, junk.size());
+
+  const Bytes out{1};
+  auto start = Clock::now();
+  auto blocking = runDetached([dev, out] { dev->echoPacketWithRetry(kSilentCmd, out, 0.6); });
+  EXPECT_EQ(resultWithin(blocking, 10s), "ReceivePacketTimeoutError");
+  double took = secondsSince(start);
+  EXPECT_GE(took, 0.55);
+  EXPECT_LT(took, 0.6 + 2.0);
+
+  start = Clock::now();
+  auto awaitable =
+      runDetached([dev, out] { dev->echoPacketWithRetryAsync(kSilentCmd, out, 2, 2.5); });
+  EXPECT_EQ(resultWithin(awaitable, 10s), "AsyncTimeout");
+  took = secondsSince(start);
+  EXPECT_GE(took, 2.45);
+  EXPECT_LT(took, 2.5 + 2.0);
+
+  auto close = runDetached([dev] { dev->close(false); });
+  EXPECT_EQ(resultWithin(close, 10s), "");
+  ::close(lfd);
 }
 
 }  // namespace

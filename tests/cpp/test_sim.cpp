@@ -547,6 +547,37 @@ TEST(SimLifetime, StopJoinsEveryThreadAcrossManyCycles) {
   EXPECT_EQ(threadCount(), before);
 }
 
+size_t fdCount() {
+  size_t n = 0;
+  DIR* d = ::opendir("/proc/self/fd");
+  while (dirent* e = ::readdir(d)) n += e->d_name[0] != '.';
+  ::closedir(d);
+  return n - 1;  // the directory stream's own descriptor
+}
+
+// References to stopped or removed devices live on; their listeners and
+// descriptors do not.
+TEST(SimLifetime, StopAndRemoveCloseEveryListenerAtOnce) {
+  Simulator sim;
+  const size_t fds = fdCount();
+  auto& eth = sim.addDevice(orv::sim::numberedConfig("Trellis", Link::Ethernet, 1));
+  auto& wifi = sim.addDevice(orv::sim::numberedConfig("HeronAin", Link::Wifi, 2));
+  auto& usb = sim.addDevice(orv::sim::numberedConfig("KestrelAio", Link::Usb, 3));
+  sim.startDiscovery("127.0.0.1", 0, 0);
+  RawTcp host(eth.cmdPort());
+  ASSERT_TRUE(host.ok());
+  ASSERT_TRUE(eth.waitForHost(Channel::Cmd, 2s));
+  const auto kept = sim.findDevice(eth.serial());
+  sim.removeDevice(eth);
+  EXPECT_TRUE(host.seesEof());
+  EXPECT_FALSE(RawTcp(kept->cmdPort()).ok());
+  EXPECT_TRUE(RawTcp(wifi.cmdPort()).ok());  // the others still serve
+  sim.stop();
+  for (int port : {wifi.cmdPort(), wifi.dataPort()}) EXPECT_FALSE(RawTcp(port).ok()) << port;
+  EXPECT_EQ(findUsb(usb.serial()), nullptr);
+  EXPECT_EQ(fdCount(), fds + 1);  // the host's own socket
+}
+
 TEST(SimLifetime, StopWakesAWriterBlockedOnAHostThatDoesNotRead) {
   Simulator sim;
   DeviceConfig cfg;

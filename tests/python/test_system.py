@@ -38,6 +38,20 @@ def test_driver_info_split_and_the_service_form_unsplit(trellis):
     assert wire(s) == [(pyorv.GET_DRIVER_INFO, b"\x00"), (pyorv.GET_DRIVER_INFO, b"\x03")]
 
 
+@pytest.mark.parametrize("call, cmd", [
+    pytest.param(lambda d: d.Sys_getDriverInfo(), pyorv.GET_DRIVER_INFO, id="driver_info"),
+    pytest.param(lambda d: d._getDriverInfo_dev(0), pyorv.GET_DRIVER_INFO, id="driver_info_dev"),
+    pytest.param(lambda d: d.Sys_getSerialNumber(), GET_SERIAL_NUMBER, id="serial_number"),
+    pytest.param(lambda d: d._getThreads(), GET_THREADS, id="threads"),
+    pytest.param(lambda d: run(d._getThreads_async()), GET_THREADS, id="threads_async"),
+])
+def test_reply_text_that_is_no_utf8_is_a_reply_format_error(trellis, call, cmd):
+    dev, s = trellis
+    s.set_handler(cmd, answer(b"ok\xff\xfe"))
+    with pytest.raises(pyorv.ReplyFormatError, match=f"command {cmd} .*0xff"):
+        call(dev)
+
+
 def test_python_version_is_answered_without_an_exchange(trellis):
     dev, s = trellis
     assert dev.Sys_getPythonVersion() == pyorv.__version__ == "3.0.19"
