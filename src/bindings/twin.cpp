@@ -3,25 +3,37 @@
 #include <pybind11/eval.h>
 #include <pybind11/gil_safe_call_once.h>
 
+#include <algorithm>
+#include <chrono>
 #include <condition_variable>
 #include <deque>
+#include <list>
 #include <mutex>
 #include <thread>
 #include <vector>
 
 namespace orv::py_bind {
 
+struct Executor::Worker {
+  std::condition_variable cv;
+  std::function<void()> task;  // handed over while the worker is idle
+  std::thread thread;
+};
+
 struct Executor::State {
   mutable std::mutex m;
-  std::condition_variable cv;
-  std::deque<std::function<void()>> queue;
-  std::vector<std::thread> threads;
-  size_t idle = 0;
+  std::list<Worker> workers;  // stable addresses: each thread holds its own
+  // Workers that wait with no task handed to them; the last one in takes the
+  // next task, so that the ones at the front stay idle and may end.
+  std::vector<Worker*> idle;
+  std::deque<std::function<void()>> backlog;  // only when no thread could be made
+  std::vector<std::thread> ended;             // workers that ended idle, to be joined
   bool stopping = false;
 };
 
-// Enough workers for many overlapping exchanges; more calls queue up.
-static constexpr size_t kMaxWorkers = 64;
+// Idle workers kept for the next calls; more than these end once idle this long.
+static constexpr size_t kKeptIdle = 8;
+static constexpr auto kIdleEnd = std::chrono::seconds(3);
 
 namespace {
 
@@ -54,32 +66,66 @@ Executor& Executor::instance() {
 }
 
 void Executor::submit(std::function<void()> task) {
-  std::lock_guard lk(s_->m);
-  if (s_->stopping) throw std::runtime_error("the driver is shutting down");
-  s_->queue.push_back(std::move(task));
-  if (s_->idle == 0 && s_->threads.size() < kMaxWorkers)
-    s_->threads.emplace_back([this] { run(); });
-  else
-    s_->cv.notify_one();
+  std::vector<std::thread> ended;
+  {
+    std::lock_guard lk(s_->m);
+    if (s_->stopping) throw std::runtime_error("the driver is shutting down");
+    ended.swap(s_->ended);
+    if (!s_->idle.empty()) {
+      Worker* w = s_->idle.back();
+      s_->idle.pop_back();
+      w->task = std::move(task);
+      w->cv.notify_one();
+    } else {
+      Worker& w = s_->workers.emplace_back();
+      w.task = std::move(task);
+      try {
+        w.thread = std::thread([this, &w] { run(w); });
+      } catch (const std::system_error&) {
+        // No thread to be had: the task waits for a running worker to end its own.
+        task = std::move(w.task);
+        s_->workers.pop_back();
+        if (s_->workers.empty()) throw;
+        s_->backlog.push_back(std::move(task));
+      }
+    }
+  }
+  for (auto& t : ended) t.join();  // they have left the interpreter already
 }
 
-void Executor::run() {
+void Executor::run(Worker& w) {
   std::unique_lock lk(s_->m);
   for (;;) {
-    ++s_->idle;
-    s_->cv.wait(lk, [&] { return s_->stopping || !s_->queue.empty(); });
-    --s_->idle;
-    if (s_->queue.empty()) {  // stopping
-      lk.unlock();
-      dropThreadState();
-      return;
+    if (!w.task && !s_->backlog.empty()) {
+      w.task = std::move(s_->backlog.front());
+      s_->backlog.pop_front();
     }
-    auto task = std::move(s_->queue.front());
-    s_->queue.pop_front();
+    if (w.task) {
+      auto task = std::move(w.task);
+      w.task = nullptr;
+      lk.unlock();
+      task();
+      task = nullptr;  // what the task holds goes before the worker counts as idle
+      lk.lock();
+      continue;
+    }
+    if (s_->stopping) break;
+    s_->idle.push_back(&w);
+    auto handed = [&] { return w.task || s_->stopping; };
+    if (!w.cv.wait_for(lk, kIdleEnd, handed) && s_->idle.size() <= kKeptIdle) w.cv.wait(lk, handed);
+    if (w.task) continue;  // the submitter took it off the idle list
+    s_->idle.erase(std::find(s_->idle.begin(), s_->idle.end(), &w));
+    if (s_->stopping) continue;
+    // Idle too long: no task can reach this worker any more.
     lk.unlock();
-    task();
+    dropThreadState();
     lk.lock();
+    s_->ended.push_back(std::move(w.thread));  // empty if shutdown took it meanwhile
+    s_->workers.remove_if([&](const Worker& x) { return &x == &w; });
+    return;
   }
+  lk.unlock();
+  dropThreadState();
 }
 
 void Executor::shutdown() {
@@ -87,15 +133,18 @@ void Executor::shutdown() {
   {
     std::lock_guard lk(s_->m);
     s_->stopping = true;
-    threads.swap(s_->threads);
+    for (Worker* w : s_->idle) w->cv.notify_one();
+    for (Worker& w : s_->workers)
+      if (w.thread.joinable()) threads.push_back(std::move(w.thread));
+    for (auto& t : s_->ended) threads.push_back(std::move(t));
+    s_->ended.clear();
   }
-  s_->cv.notify_all();
   for (auto& t : threads) t.join();
 }
 
 size_t Executor::workers() const {
   std::lock_guard lk(s_->m);
-  return s_->threads.size();
+  return s_->workers.size();
 }
 
 namespace {

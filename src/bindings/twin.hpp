@@ -14,7 +14,10 @@
 
 namespace orv::py_bind {
 
-// Runs tasks on a small pool of threads that grows on demand.
+// Runs each task at once: on a worker that waits with nothing to do, or on a
+// new one.  A task never queues behind another (an awaitable stuck on a
+// silent device holds its worker, not the others').  Idle workers beyond a
+// few end after a while.
 class Executor {
  public:
   static Executor& instance();
@@ -26,7 +29,8 @@ class Executor {
 
  private:
   Executor() = default;
-  void run();
+  struct Worker;
+  void run(Worker& w);
   struct State;
   std::shared_ptr<State> s_ = make();
   static std::shared_ptr<State> make();
