@@ -1,7 +1,11 @@
 """Round-trip latency of one command from Python, against the simulator on
 loopback in this process.
 
-    PYTHONPATH=build/py/stage python bench/bench_exchange.py [-n 3000]
+    PYTHONPATH=build/py/stage python bench/bench_exchange.py [-n 3000] [--mode pinned|free|both]
+
+Every row runs twice: first with the whole process pinned to one CPU (the
+headline: client, simulator and receive threads share a core, so the figures
+do not depend on how the scheduler spreads threads), then free (unpinned).
 
 Rows:
   floor           GET_DRIVER_INFO written on a plain blocking socket and read
@@ -15,12 +19,19 @@ Rows:
   32 in flight    32 tasks on one loop, each awaiting exchanges on its own
                   connected device (the simulator answers two commands only,
                   so independent exchanges are spread over devices, not keys)
+  sparse          one call every 10 ms: the blocking call against the raw
+                  socket at the same sparsity (threads that sleep between calls)
+  1000 awaitables 1000 awaitables at once on 100 devices, 10 reads of
+                  different commands each (one reply slot per command): the wall
+                  time of the burst, and the threads of the process before it,
+                  during it (its peak) and after it, once idle workers have ended
 
 Figures only: nothing here passes or fails on a time.
 """
 
 import argparse
 import asyncio
+import os
 import socket
 import statistics
 import sys
@@ -34,6 +45,14 @@ TARGET_BLOCKING = 1.5  # blocking p50 over the floor median, at most
 TARGET_AWAITABLE = 3.0  # awaitable p50 over the floor median, at most
 CONCURRENT = 32
 TURN = 250  # round trips per row and turn
+SPARSE_GAP = 0.010  # seconds between two calls of the sparse rows
+BURST_DEVICES = 100
+# Ten reads with different reply keys: the echo pool holds one reply per key,
+# so awaitables of the same key on one device would take each other's replies.
+# Driver info, serial number, date and time, IP, MAC, gateway, threads,
+# EEPROM device, DIO state, DIO current.
+BURST_CMDS = [240, 122, 241, 243, 245, 124, 126, 249, 229, 226]
+IDLE_END = 4  # seconds: longer than the executor keeps surplus idle workers
 
 
 def percentile(sorted_ns, q):
@@ -175,9 +194,61 @@ def bench_gather(devs, n, warmup):
     return lat, len(lat) / (wall_ns / 1e9)
 
 
-def print_table(n, warmup, rows, throughput):
-    print(f"GET_DRIVER_INFO round trips on loopback, {n} timed per row after {warmup} warm-up "
-          f"(pyorv {pyorv.__version__}, Python {sys.version.split()[0]})")
+def thread_count():
+    return len(os.listdir("/proc/self/task"))
+
+
+def set_affinity(cpus):
+    """Every thread of the process (threads made later inherit it)."""
+    for tid in os.listdir("/proc/self/task"):
+        try:
+            os.sched_setaffinity(int(tid), cpus)
+        except OSError:
+            pass  # the thread ended meanwhile
+
+
+def bench_sparse(floor_sock, dev, count):
+    """One call every SPARSE_GAP, the floor and the driver by turns."""
+    calls = {"floor": floor_call(floor_sock),
+             "blocking": lambda: dev._echoPacketWithRetry(240, [0], timeout=3)}
+    out = {name: [] for name in calls}
+    clock = time.perf_counter_ns
+    for _ in range(count):
+        for name, call in calls.items():
+            time.sleep(SPARSE_GAP)
+            t0 = clock()
+            call()
+            out[name].append(clock() - t0)
+    return {name: summary(v) for name, v in out.items()}
+
+
+def bench_burst(devs):
+    """One awaitable of each BURST_CMDS on each device, all at once; wall
+    times of a first (cold: workers are made) and a second burst, and thread
+    counts: before, at the end of the first burst (its peak: every worker it
+    made is still there, idle) and once surplus idle workers have ended."""
+    threads = {"before": thread_count()}
+
+    async def burst():
+        t0 = time.perf_counter_ns()
+        replies = await asyncio.gather(*(d._echoPacketWithRetry_async(cmd, [0])
+                                         for d in devs for cmd in BURST_CMDS))
+        took = (time.perf_counter_ns() - t0) / 1e6
+        threads.setdefault("during", thread_count())
+        if not all(replies):
+            raise RuntimeError("an empty reply in the burst")
+        return took
+
+    cold = asyncio.run(burst())
+    warm = asyncio.run(burst())
+    time.sleep(IDLE_END)
+    threads["after"] = thread_count()
+    return cold, warm, threads
+
+
+def print_table(n, warmup, rows, throughput, mode):
+    print(f"== {mode}: GET_DRIVER_INFO round trips on loopback, {n} timed per row after {warmup} "
+          f"warm-up (pyorv {pyorv.__version__}, Python {sys.version.split()[0]})")
     print(f"{'':32} {'p50 us':>9} {'p99 us':>9} {'p50/floor':>10} {'target':>8}")
     for name, st, ratio, target in rows:
         r = f"{ratio:9.2f}x" if ratio is not None else ""
@@ -190,14 +261,21 @@ def print_table(n, warmup, rows, throughput):
         print(f"{'':32} {CONCURRENT} in flight: {throughput:,.0f} round trips/s")
 
 
-def main(argv=None):
-    ap = argparse.ArgumentParser(description=__doc__.split("\n\n")[0])
-    ap.add_argument("-n", "--rounds", type=int, default=3000, help="timed round trips per row")
-    ap.add_argument("--warmup", type=int, default=300, help="untimed round trips first")
-    ap.add_argument("--no-gather", action="store_true", help=f"skip the {CONCURRENT}-task row")
-    args = ap.parse_args(argv)
-    n, warmup = max(1, args.rounds), max(0, args.warmup)
+def print_extra(sparse, burst):
+    if sparse is not None:
+        f, b = sparse["floor"], sparse["blocking"]
+        print(f"{'sparse floor (every 10 ms)':32} {f['p50']:9.1f} {f['p99']:9.1f}")
+        print(f"{'sparse blocking (every 10 ms)':32} {b['p50']:9.1f} {b['p99']:9.1f} "
+              f"{b['p50'] / f['p50']:9.2f}x")
+    if burst is not None:
+        cold, warm, th = burst
+        total = BURST_DEVICES * len(BURST_CMDS)
+        print(f"{total} awaitables on {BURST_DEVICES} devices: cold {cold:.0f} ms, warm {warm:.0f} ms;"
+              f" threads before {th['before']}, during {th['during']}, {IDLE_END} s after"
+              f" {th['after']}")
 
+
+def run(args, n, warmup, mode):
     with sim.Simulator() as s:
         def device(i):
             return s.add_device(sim.DeviceConfig(model="Trellis", serial=f"BENCH{i:03d}",
@@ -205,8 +283,11 @@ def main(argv=None):
 
         floor_sock, aio_sock = raw_socket(device(0)), raw_socket(device(1))
         dev = connect(device(2))
+        sparse = None
         try:
             seq = bench_sequential(floor_sock, aio_sock, dev, n, warmup)
+            if args.sparse > 0:
+                sparse = bench_sparse(floor_sock, dev, args.sparse)
         finally:
             release(dev)
             floor_sock.close()
@@ -234,7 +315,42 @@ def main(argv=None):
                     release(d)
             rows.append((f"awaitable, {CONCURRENT} in flight", summary(lat), None, None))
 
-    print_table(n, warmup, rows, throughput)
+        burst = None
+        if not args.no_burst:
+            devs = [connect(device(100 + i)) for i in range(BURST_DEVICES)]
+            try:
+                burst = bench_burst(devs)
+            finally:
+                for d in devs:
+                    release(d)
+
+    print_table(n, warmup, rows, throughput, mode)
+    print_extra(sparse, burst)
+
+
+def main(argv=None):
+    ap = argparse.ArgumentParser(description=__doc__.split("\n\n")[0])
+    ap.add_argument("-n", "--rounds", type=int, default=3000, help="timed round trips per row")
+    ap.add_argument("--warmup", type=int, default=300, help="untimed round trips first")
+    ap.add_argument("--no-gather", action="store_true", help=f"skip the {CONCURRENT}-task row")
+    ap.add_argument("--sparse", type=int, default=200,
+                    help="calls per sparse row, one every 10 ms (0 skips them)")
+    ap.add_argument("--no-burst", action="store_true", help="skip the 1000-awaitable row")
+    ap.add_argument("--mode", choices=["pinned", "free", "both"], default="both",
+                    help="pinned to one CPU, unpinned, or pinned then unpinned")
+    args = ap.parse_args(argv)
+    n, warmup = max(1, args.rounds), max(0, args.warmup)
+
+    cpus = os.sched_getaffinity(0)
+    if args.mode in ("pinned", "both"):
+        cpu = min(cpus)
+        set_affinity({cpu})
+        run(args, n, warmup, f"pinned to CPU {cpu} (headline)")
+        set_affinity(cpus)
+    if args.mode in ("free", "both"):
+        if args.mode == "both":
+            print()
+        run(args, n, warmup, f"free: unpinned, {len(cpus)} CPUs")
     return 0
 
 

@@ -8,6 +8,7 @@
 #include "bindings/devices.hpp"
 #include "bindings/twin.hpp"
 #include "link/constants.hpp"
+#include "link/interrupt.hpp"
 #include "link/report.hpp"
 
 namespace orv::py_bind {
@@ -40,6 +41,13 @@ void pyWarning(ErrorId id, const std::string& msg) {
     e.discard_as_unraisable("pyorv warning");
   }
 }
+// The hook of link/interrupt.hpp: a blocking call of the main thread woken by
+// SIGINT runs the handlers here and ends with what they raise.
+void runSignalHandlers() {
+  if (!g_alive.load()) return;
+  py::gil_scoped_acquire gil;
+  if (PyErr_CheckSignals() != 0) throw py::error_already_set();
+}
 }  // namespace
 
 bool pythonAlive() { return g_alive.load(); }
@@ -48,10 +56,19 @@ void setPythonAlive(bool alive) { g_alive.store(alive); }
 void installHooks(py::module_& m) {
   report::setHooks({&pyPrint, &pyWarning});
   setPythonAlive(true);
-  // At exit: close what is still open, then stop entering the interpreter
-  // from other threads.
+  // Signals reach the handlers of the main thread only: imported elsewhere,
+  // blocking calls are not woken by them.
+  auto threading = py::module_::import("threading");
+  if (threading.attr("current_thread")().is(threading.attr("main_thread")()))
+    interrupt::install(&runSignalHandlers);
+  // At exit: close what is still open, end the signal watcher, then stop
+  // entering the interpreter from other threads.
   m.def("_shutdown", [] {
     closeAllDevices();
+    {
+      py::gil_scoped_release r;
+      interrupt::uninstall();
+    }
     setPythonAlive(false);
     report::setHooks({});
   });

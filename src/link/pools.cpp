@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "link/interrupt.hpp"
 #include "link/stream_route.hpp"
 
 namespace orv {
@@ -24,11 +25,12 @@ void CancelToken::setWaker(std::function<void()> waker) {
 }
 
 namespace {
-// Registers the token's waker for the duration of one wait.
+// One wait: the token's waker is registered while it lasts, and on the signal
+// thread the wait is woken by a signal too (link/interrupt.hpp).
 class WakerScope {
  public:
-  WakerScope(CancelToken* tok, std::function<void()> w) : tok_(tok) {
-    if (tok_) tok_->setWaker(std::move(w));
+  WakerScope(CancelToken* tok, const std::function<void()>& w) : tok_(tok), signals_(w) {
+    if (tok_) tok_->setWaker(w);
   }
   ~WakerScope() {
     if (tok_) tok_->setWaker(nullptr);
@@ -36,8 +38,19 @@ class WakerScope {
   WakerScope(const WakerScope&) = delete;
   WakerScope& operator=(const WakerScope&) = delete;
 
+  // When a signal came: runs the host's handlers with `lk` released and
+  // returns true (the wait checks again); throws what a handler raised.
+  bool signalled(std::unique_lock<std::mutex>& lk) {
+    if (!signals_.pending()) return false;
+    lk.unlock();
+    signals_.runHandlers();
+    lk.lock();
+    return true;
+  }
+
  private:
   CancelToken* tok_;
+  interrupt::WaitScope signals_;
 };
 }  // namespace
 
@@ -125,6 +138,7 @@ EchoPool::WaitResult EchoPool::waitPop(int64_t key, Clock::time_point deadline, 
       slots_.erase(it);
       return WaitResult::Taken;
     }
+    if (ws.signalled(lk)) continue;
     if (tok && tok->cancelled()) return WaitResult::Cancelled;
     if (closed_) return WaitResult::Closed;
     if (Clock::now() >= deadline) return WaitResult::TimedOut;
@@ -136,6 +150,7 @@ EchoPool::WaitResult EchoPool::sleepUntil(Clock::time_point deadline, CancelToke
   WakerScope ws(tok, [this] { wakeAll(); });
   std::unique_lock lk(m_);
   for (;;) {
+    if (ws.signalled(lk)) continue;
     if (tok && tok->cancelled()) return WaitResult::Cancelled;
     if (closed_) return WaitResult::Closed;
     if (Clock::now() >= deadline) return WaitResult::TimedOut;
@@ -202,6 +217,7 @@ std::optional<Bytes> StreamQueue::popWait(Clock::time_point deadline, CancelToke
       q_.pop_front();
       return out;
     }
+    if (ws.signalled(lk)) continue;
     if ((tok && tok->cancelled()) || closed_ || Clock::now() >= deadline) return std::nullopt;
     cv_.wait_until(lk, deadline);
   }
@@ -215,6 +231,7 @@ bool StreamQueue::waitSize(size_t n, CancelToken* tok) {
   std::unique_lock lk(m_);
   for (;;) {
     if (q_.size() >= n) return true;
+    if (ws.signalled(lk)) continue;
     if ((tok && tok->cancelled()) || closed_) return false;
     cv_.wait(lk);
   }

@@ -1,7 +1,8 @@
 // The three data pools of a device: latest reply per key, a FIFO per stream
 // key, a set of answers per broadcast command.  Receive threads write them,
 // callers read them; every single operation is indivisible.  A reply wakes
-// its waiter at once.
+// its waiter at once; on the main thread a SIGINT wakes it too
+// (link/interrupt.hpp).
 #pragma once
 
 #include <atomic>

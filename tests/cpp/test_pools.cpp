@@ -1,11 +1,15 @@
 // Pools and routing: what the receive threads store and how waiters wake.
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <unistd.h>
 
+#include <atomic>
 #include <chrono>
 #include <thread>
 
 #include "link/device.hpp"
 #include "link/error.hpp"
+#include "link/interrupt.hpp"
 
 using namespace orv;
 using namespace std::chrono_literals;
@@ -63,6 +67,55 @@ TEST(EchoPool, CancelAndCloseWakeWaiters) {
   });
   EXPECT_EQ(pool.waitPop(1, Clock::time_point::max(), out, nullptr), EchoPool::WaitResult::Closed);
   t2.join();
+}
+
+// SIGINT and the waits of the signal thread (link/interrupt.hpp): the host's
+// handler still runs, the hook runs when the signal comes; a hook that does
+// not throw lets the wait go on, a signal between two waits reaches the next.
+std::atomic<int> g_host_runs{0}, g_hook_runs{0};
+std::atomic<bool> g_hook_throws{false};
+struct Interrupted {};
+void hostHandler(int) { ++g_host_runs; }
+void hook() {
+  ++g_hook_runs;
+  if (g_hook_throws) throw Interrupted{};
+}
+
+TEST(Interrupt, SignalWakesTheWaitAndTheHookDecides) {
+  struct sigaction host {
+  }, saved{}, after{};
+  host.sa_handler = &hostHandler;
+  ASSERT_EQ(sigaction(SIGINT, &host, &saved), 0);
+  interrupt::install(&hook);
+  auto ctrlC = [] {
+    return std::thread([] {
+      std::this_thread::sleep_for(50ms);
+      kill(getpid(), SIGINT);
+    });
+  };
+  EchoPool pool;
+  Bytes out;
+  auto t = ctrlC();
+  const auto start = Clock::now();
+  EXPECT_EQ(pool.waitPop(1, start + 300ms, out, nullptr), EchoPool::WaitResult::TimedOut);
+  EXPECT_GE(Clock::now() - start, 300ms);
+  t.join();
+  EXPECT_EQ(g_host_runs, 1);
+  EXPECT_EQ(g_hook_runs, 1);
+
+  g_hook_throws = true;
+  kill(getpid(), SIGINT);  // between two waits
+  EXPECT_THROW(pool.sleepUntil(Clock::time_point::max(), nullptr), Interrupted);
+  StreamQueue q;
+  t = ctrlC();
+  EXPECT_THROW(q.waitSize(1), Interrupted);
+  t.join();
+  EXPECT_EQ(g_host_runs, 3);
+  EXPECT_EQ(g_hook_runs, 3);
+
+  interrupt::uninstall();
+  sigaction(SIGINT, &saved, &after);
+  EXPECT_EQ(after.sa_handler, &hostHandler);  // the host's handler is back
 }
 
 TEST(StreamQueue, WaitSizeAndBound) {

@@ -3,10 +3,13 @@ over real loopback sockets and the virtual USB backend."""
 
 import asyncio
 import gc
+import os
 import re
+import signal
 import subprocess
 import sys
 import textwrap
+import threading
 import time
 
 import pytest
@@ -111,6 +114,56 @@ def test_open_device_at_interpreter_exit_does_not_hang(tmp_path):
     assert out.stdout.splitlines()[-1] == "end of script"
 
 
+# Ctrl-C during a blocking call on the main thread, in a process of its own: each
+# call would wait 30 s (the stream read for ever); the parent sends SIGINT.
+INTERRUPTED = textwrap.dedent("""
+    import sys, pyorv, pyorv.sim as sim
+    s = sim.Simulator()
+    d = s.add_device(sim.DeviceConfig(model="Trellis"))
+    dev = pyorv.Trellis(verbose=False)
+    dev.connect(d.host, d.cmd_port, verbose=False)
+    d.faults.never_answer = {241}  # GET_DATE_TIME, the command of Sys_getRTC
+    q = dev._streamQueue((pyorv.START_AI_STREAMING, 1, 0))
+    finder = pyorv.BroadcastDevice(
+        verbose=False, broadcast_addr=f"127.0.0.1:{s.start_discovery('127.0.0.1', 0)}")
+    calls = {
+        "exchange": lambda: dev.Sys_getRTC(timeout=30),
+        "stream": lambda: dev._getStreamingFromPool(q, 5, 0.1),
+        "broadcast window": lambda: (finder.connect(verbose=False),
+                                     finder._broadcastPacket(pyorv.GET_DEVICE_INFO, [0])),
+    }
+    print("ready", flush=True)
+    try:
+        calls[sys.argv[1]]()
+    except KeyboardInterrupt:
+        print("interrupted", flush=True)
+    d.faults.never_answer = set()
+    print(len(dev.Sys_getRTC(timeout=3)), flush=True)  # the device is still usable
+""")
+
+
+@pytest.mark.parametrize("call", ["exchange", "stream", "broadcast window"])
+def test_ctrl_c_interrupts_a_blocking_call(call):
+    env = dict(os.environ, PYORV_BROADCAST_WINDOW="30")
+    proc = subprocess.Popen([sys.executable, "-c", INTERRUPTED, call], env=env, text=True,
+                            stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+    watchdog = threading.Timer(40, proc.kill)  # a call Ctrl-C misses must not hang the suite
+    watchdog.start()
+    try:
+        assert proc.stdout.readline() == "ready\n"
+        time.sleep(0.5)  # the call is waiting now
+        proc.send_signal(signal.SIGINT)
+        start = time.monotonic()
+        line = proc.stdout.readline()
+        took = time.monotonic() - start
+        out, err = proc.communicate(timeout=30)
+    finally:
+        watchdog.cancel()
+    assert line == "interrupted\n", err
+    assert took < 2
+    assert out == "20\n" and proc.returncode == 0, err
+
+
 # ---- the blocking exchange ---------------------------------------------------------
 
 def test_driver_info_round_trip_with_wire_bytes(eth, eth_sim):
@@ -200,6 +253,48 @@ def test_cancelling_an_awaitable_stops_its_retries(eth, eth_sim):
     asyncio.run(main())
     assert sent(eth_sim, SILENT) == 1
     assert eth._echoPacketWithRetry(pyorv.GET_DRIVER_INFO, [0], timeout=3)
+
+
+def test_awaitables_never_wait_for_each_other(simulator):
+    # Ten devices answering in 0.2 s: ten awaitables take one delay, not ten,
+    # also after a warm-up call.
+    sims = [simulator.add_device(sim.DeviceConfig(model="Trellis", serial=f"SIMQ{i:04d}"))
+            for i in range(11)]
+    devs = [pyorv.ETHDevice(verbose=False) for _ in sims]
+    for dev, d in zip(devs, sims):
+        dev.connect(d.host, d.cmd_port, verbose=False)
+        d.faults.delay_us = 200_000
+    silent, healthy = sims[10], devs[:10]
+    silent.faults.never_answer = {SILENT}
+
+    async def burst():
+        await healthy[0]._echoPacketWithRetry_async(pyorv.GET_DRIVER_INFO, [0])  # warm-up
+        start = time.monotonic()
+        await asyncio.gather(*(d._echoPacketWithRetry_async(pyorv.GET_DRIVER_INFO, [0])
+                               for d in healthy))
+        return time.monotonic() - start
+
+    async def behind_stuck_ones():
+        stuck = [asyncio.ensure_future(devs[10]._getReplyFromPool_async(5000 + k))
+                 for k in range(70)]
+        await asyncio.sleep(0.3)  # every one is waiting now
+        held = thread_count()
+        start = time.monotonic()
+        await asyncio.wait_for(healthy[0]._echoPacketWithRetry_async(pyorv.GET_DRIVER_INFO, [0]),
+                               10)
+        took = time.monotonic() - start
+        for f in stuck:
+            f.cancel()
+        await asyncio.gather(*stuck, return_exceptions=True)
+        return took, held
+
+    threads = thread_count()
+    assert asyncio.run(burst()) < 1.2  # ten delays would be 2 s
+    took, held = asyncio.run(behind_stuck_ones())
+    assert took < 3
+    assert held == threads  # a pending awaitable holds no thread
+    for dev in devs:
+        dev.close(verbose=False)
 
 
 def test_closing_the_device_fails_pending_futures(eth_sim):
