@@ -135,6 +135,19 @@ py::object& once(py::gil_safe_call_once_and_store<py::object>& store, Make make)
   return store.call_once_and_store_result(make).get_stored();
 }
 
+// Attribute names of the per-call path, made once: a name made from a C
+// string on every call would be built and hashed again each time.
+struct Names {
+  py::str cancelled{"cancelled"}, done{"done"}, set_result{"set_result"},
+      set_exception{"set_exception"}, create_future{"create_future"},
+      add_done_callback{"add_done_callback"}, reactor{"_pyorv_reactor"};
+};
+
+const Names& names() {
+  PYBIND11_CONSTINIT static py::gil_safe_call_once_and_store<Names> store;
+  return store.call_once_and_store_result([] { return Names(); }).get_stored();
+}
+
 py::object runningLoop() {
   PYBIND11_CONSTINIT static py::gil_safe_call_once_and_store<py::object> store;
   return once(store, [] { return py::module_::import("asyncio").attr("get_running_loop"); })();
@@ -149,15 +162,20 @@ py::object cancelOnDone(const std::shared_ptr<CancelToken>& token) {
                   [](void* p) { delete static_cast<std::shared_ptr<CancelToken>*>(p); });
   auto& fn = once(callback, [] {
     return py::cpp_function([](py::capsule tok, py::object fut) {
-      if (fut.attr("cancelled")().cast<bool>())
+      if (fut.attr(names().cancelled)().cast<bool>())
         (*static_cast<std::shared_ptr<CancelToken>*>(tok.get_pointer()))->cancel();
     });
   });
   return once(partial, [] { return py::module_::import("functools").attr("partial"); })(fn, cap);
 }
 
-// The reactor of `loop`, made and hooked into the loop on first use.
+// The reactor of `loop`, made and hooked into the loop on first use.  It is
+// kept as an attribute of the loop (a weak mapping for loops that take none).
 std::shared_ptr<LoopReactor> reactorFor(const py::object& loop) {
+  const Names& n = names();
+  if (PyObject* found = PyObject_GetAttr(loop.ptr(), n.reactor.ptr()))
+    return py::reinterpret_steal<py::object>(found).cast<std::shared_ptr<LoopReactor>>();
+  PyErr_Clear();
   PYBIND11_CONSTINIT static py::gil_safe_call_once_and_store<py::object> store;
   py::object& reactors =
       once(store, [] { return py::module_::import("weakref").attr("WeakKeyDictionary")(); });
@@ -167,14 +185,17 @@ std::shared_ptr<LoopReactor> reactorFor(const py::object& loop) {
   py::object obj = py::cast(reactor);
   loop.attr("add_reader")(reactor->postFd(), obj.attr("_run_posted"));
   loop.attr("add_reader")(reactor->timerFd(), obj.attr("_run_timers"));
-  reactors[loop] = obj;
+  if (PyObject_SetAttr(loop.ptr(), n.reactor.ptr(), obj.ptr()) != 0) {
+    PyErr_Clear();
+    reactors[loop] = obj;
+  }
   return reactor;
 }
 
 void complete(Pending& p) {
-  if (p.future.attr("done")().cast<bool>()) return;
+  if (p.future.attr(names().done)().cast<bool>()) return;
   if (!p.error) {
-    p.future.attr("set_result")(p.make_result());
+    p.future.attr(names().set_result)(p.make_result());
     return;
   }
   py::object exc = exceptionObject(p.error);
@@ -187,7 +208,7 @@ void complete(Pending& p) {
       exc = py::module_::import("builtins").attr("RuntimeError")("unknown failure");
     }
   }
-  p.future.attr("set_exception")(exc);
+  p.future.attr(names().set_exception)(exc);
 }
 
 }  // namespace
@@ -202,13 +223,13 @@ py::object startAwaitable(py::object keep, AsyncBody body) {
   py::object loop = runningLoop();
   auto reactor = reactorFor(loop);
   auto* p = new Pending{std::move(keep),
-                        loop.attr("create_future")(),
+                        loop.attr(names().create_future)(),
                         std::make_shared<CancelToken>(),
                         nullptr,
                         {},
                         {}};
   py::object future = p->future;
-  future.attr("add_done_callback")(cancelOnDone(p->token));
+  future.attr(names().add_done_callback)(cancelOnDone(p->token));
   p->fiber = std::make_unique<Fiber>(
       reactor,
       [p, body = std::move(body)] {
