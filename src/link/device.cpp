@@ -246,11 +246,11 @@ void Device::sendBefore(int cmd, std::span<const uint8_t> data_out, Clock::time_
   try {
     // One packet on the wire at a time; a sender stuck behind a device that
     // stopped reading holds the others no longer than their own deadlines.
-    std::unique_lock lk(link->send_m, std::defer_lock);
-    if (deadline == Clock::time_point::max())
-      lk.lock();
-    else if (!lk.try_lock_until(deadline))
-      throw SendTimeout();
+    if (!link->send_lock.lockUntil(deadline)) throw SendTimeout();
+    struct Unlock {
+      SendLock& l;
+      ~Unlock() { l.unlock(); }
+    } unlock{link->send_lock};
     client->sendPacket(packet, deadline);
   } catch (...) {
     // A close shuts the socket (broken pipe) or drops the client under the

@@ -53,6 +53,31 @@ class GateAlreadyOpen : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+// One sender at a time on a link, and a sender waits for its turn no longer
+// than its own deadline.  (A mutex and a flag rather than std::timed_mutex,
+// whose timed lock the thread checker cannot follow.)
+class SendLock {
+ public:
+  bool lockUntil(Clock::time_point deadline) {
+    std::unique_lock lk(m_);
+    if (!cv_.wait_until(lk, deadline, [&] { return !busy_; })) return false;
+    busy_ = true;
+    return true;
+  }
+  void unlock() {
+    {
+      std::lock_guard lk(m_);
+      busy_ = false;
+    }
+    cv_.notify_one();
+  }
+
+ private:
+  std::mutex m_;
+  std::condition_variable cv_;
+  bool busy_ = false;
+};
+
 // One link of a device: transport, status, gate and receive thread.
 struct Link {
   enum class Failures { Print, Quiet };  // a USB link prints its read failures
@@ -67,7 +92,7 @@ struct Link {
   Gate gate;
   std::thread thread;
   std::atomic<bool> alive{false};
-  std::timed_mutex send_m;  // one packet on the wire at a time
+  SendLock send_lock;  // one packet on the wire at a time
 
  private:
   mutable std::mutex m_;
