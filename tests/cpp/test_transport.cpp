@@ -330,8 +330,10 @@ TEST(UdpClient, BroadcastTargetFollowsOverrides) {
   EXPECT_EQ(client.broadcastTarget(), (Target{"localhost", 4000}));
   client.setBroadcastTarget("127.0.0.2", 5000);
   EXPECT_EQ(client.broadcastTarget(), (Target{"127.0.0.2", 5000}));
-  setenv(kVar, "127.0.0.1:port", 1);
-  EXPECT_THROW(UDPClient().broadcastTarget(), ValueError);
+  for (const char* bad : {"127.0.0.1:port", "127.0.0.1:65536", "127.0.0.1:-1"}) {
+    setenv(kVar, bad, 1);
+    EXPECT_THROW(UDPClient().broadcastTarget(), ValueError) << bad;
+  }
   unsetenv(kVar);
 }
 
