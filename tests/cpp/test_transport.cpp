@@ -1,4 +1,7 @@
-// Socket transports against loopback peers made in the test.
+// Socket transports against loopback peers made in the test.  (That
+// disconnect wakes a reader blocked in the kernel is what lets a device's
+// receive threads end: test_exchange.cpp's lifecycle tests for TCP, and the
+// finder of test_discovery.py for UDP.)
 #include <arpa/inet.h>
 #include <dirent.h>
 #include <gtest/gtest.h>
@@ -12,7 +15,6 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
-#include <fstream>
 #include <functional>
 #include <future>
 #include <memory>
@@ -140,28 +142,6 @@ int errorCode(F&& f) {
   return 0;
 }
 
-// Sets (or unsets, with nullptr) an environment variable for one scope.
-class ScopedEnv {
- public:
-  ScopedEnv(const char* name, const char* value) : name_(name) {
-    if (const char* old = std::getenv(name)) old_ = old;
-    if (value)
-      setenv(name, value, 1);
-    else
-      unsetenv(name);
-  }
-  ~ScopedEnv() {
-    if (old_)
-      setenv(name_, old_->c_str(), 1);
-    else
-      unsetenv(name_);
-  }
-
- private:
-  const char* name_;
-  std::optional<std::string> old_;
-};
-
 // ---------------------------------------------------------------------------
 // TCP
 
@@ -195,6 +175,7 @@ TEST(TcpClient, ExchangesBytesAndSeesThePeerClose) {
   EXPECT_TRUE(client.recvAndSplitPacket(1536).empty());
   client.disconnect();
   EXPECT_FALSE(client.hasSocket());
+  EXPECT_EQ(errorCode([&] { client.disconnect(); }), errNetConnectionLost);
 }
 
 struct BadTarget {
@@ -210,7 +191,6 @@ TEST_P(TcpConnectFailure, RaisesNetworkConnectionErrorAndKeepsTheSocket) {
   int port = GetParam().port != 0 ? GetParam().port : boundPort(closed_port.get());
   TCPClient client;
   EXPECT_EQ(errorCode([&] { client.connect(GetParam().host, port); }), errNetConnection);
-  EXPECT_EQ(errNetConnection, -8002);
   EXPECT_TRUE(client.hasSocket());
   // The unconnected socket is closed by disconnect like any other.
   client.disconnect();
@@ -233,25 +213,6 @@ TEST(TcpClient, WithoutSocketEveryCallRefuses) {
   EXPECT_EQ(errorCode([&] { client.disconnect(); }), errNetConnectionLost);
 }
 
-TEST(TcpClient, DisconnectTwiceFailsTheSecondTime) {
-  Listener server;
-  TCPClient client;
-  client.connect("127.0.0.1", server.port());
-  Fd peer = server.accept();
-  client.disconnect();
-  try {
-    client.disconnect();
-    FAIL() << "second disconnect succeeded";
-  } catch (const Error& e) {
-    EXPECT_EQ(e.id(), ErrorId::NetworkConnectionLostError);
-    EXPECT_EQ(e.code(), -8003);
-    EXPECT_EQ(e.msg(), "Network DAQ connection lost.");
-  }
-  EXPECT_FALSE(client.hasSocket());
-  // The peer saw the connection end.
-  EXPECT_TRUE(recvSome(peer.get()).empty());
-}
-
 TEST(TcpClient, TimeoutAfterConnectIsDistinctFromPeerClose) {
   Listener server;
   TCPClient client;
@@ -267,46 +228,6 @@ TEST(TcpClient, TimeoutAfterConnectIsDistinctFromPeerClose) {
   sendAll(peer.get(), {9});
   EXPECT_EQ(client.recvPacket(16), Bytes{9});
   EXPECT_THROW(client.setTimeout(-1), ValueError);
-}
-
-TEST(TcpClient, DisconnectWakesABlockedReader) {
-  Listener server;
-  auto client = std::make_shared<TCPClient>();
-  client->connect("127.0.0.1", server.port());
-  Fd peer = server.accept();
-
-  // The reader owns what it touches, so a failing test can leave it behind.
-  struct Reader {
-    std::atomic<pid_t> tid{0};
-    std::promise<Bytes> result;
-  };
-  auto reader = std::make_shared<Reader>();
-  auto got = reader->result.get_future();
-  std::thread([reader, client] {
-    reader->tid = gettid();
-    try {
-      reader->result.set_value(client->recvPacket(1536));
-    } catch (...) {
-      reader->result.set_exception(std::current_exception());
-    }
-  }).detach();
-  // Wait until the reader sleeps in the kernel.
-  auto sleeping = [&] {
-    std::ifstream stat("/proc/self/task/" + std::to_string(reader->tid.load()) + "/stat");
-    std::string line;
-    std::getline(stat, line);
-    auto paren = line.rfind(')');
-    return paren != std::string::npos && paren + 2 < line.size() && line[paren + 2] == 'S';
-  };
-  const auto give_up = std::chrono::steady_clock::now() + 5s;
-  while ((reader->tid == 0 || !sleeping()) && std::chrono::steady_clock::now() < give_up)
-    std::this_thread::sleep_for(1ms);
-  ASSERT_EQ(got.wait_for(0s), std::future_status::timeout) << "reader did not block";
-
-  ASSERT_TRUE(finishesWithin([client] { client->disconnect(); }, 10s));
-  ASSERT_EQ(got.wait_for(10s), std::future_status::ready) << "the reader was not woken";
-  EXPECT_TRUE(got.get().empty());
-  EXPECT_FALSE(client->hasSocket());
 }
 
 TEST(TcpClient, ReconnectGetsANewSocketAndKeepsThePartialStream) {
@@ -397,37 +318,23 @@ TEST(UdpClient, BindOnATakenPortFails) {
   EXPECT_EQ(errorCode([&] { client.bind("999.1.1.1", 0); }), errNetConnection);
 }
 
-TEST(UdpClient, DisconnectWakesABlockedReader) {
-  auto client = std::make_shared<UDPClient>();
-  client->bind("127.0.0.1", 0);
-  auto got = std::async(std::launch::async, [client] { return client->recvPacket(512); });
-  std::this_thread::sleep_for(20ms);
-  ASSERT_TRUE(finishesWithin([client] { client->disconnect(); }, 10s));
-  ASSERT_EQ(got.wait_for(10s), std::future_status::ready);
-  try {
-    EXPECT_TRUE(got.get().empty());
-  } catch (const Error& e) {  // the reader came too late to find the socket
-    EXPECT_EQ(e.id(), ErrorId::LinkNotOpenError);
-  }
-}
-
 TEST(UdpClient, BroadcastTargetFollowsOverrides) {
-  ScopedEnv unset("PYORV_BROADCAST_ADDR", nullptr);
+  using Target = std::pair<std::string, int>;
+  constexpr const char* kVar = "PYORV_BROADCAST_ADDR";  // no other C++ test reads it
+  unsetenv(kVar);
   UDPClient client;
-  EXPECT_EQ(client.broadcastTarget(), (std::pair<std::string, int>{"255.255.255.255", 61557}));
-  {
-    ScopedEnv env("PYORV_BROADCAST_ADDR", "127.0.0.1");
-    EXPECT_EQ(client.broadcastTarget(), (std::pair<std::string, int>{"127.0.0.1", UDP_SEND_PORT}));
+  EXPECT_EQ(client.broadcastTarget(), (Target{"255.255.255.255", 61557}));
+  setenv(kVar, "127.0.0.1", 1);
+  EXPECT_EQ(client.broadcastTarget(), (Target{"127.0.0.1", UDP_SEND_PORT}));
+  setenv(kVar, "localhost:4000", 1);
+  EXPECT_EQ(client.broadcastTarget(), (Target{"localhost", 4000}));
+  client.setBroadcastTarget("127.0.0.2", 5000);
+  EXPECT_EQ(client.broadcastTarget(), (Target{"127.0.0.2", 5000}));
+  for (const char* bad : {"127.0.0.1:port", "127.0.0.1:65536", "127.0.0.1:-1"}) {
+    setenv(kVar, bad, 1);
+    EXPECT_THROW(UDPClient().broadcastTarget(), ValueError) << bad;
   }
-  {
-    ScopedEnv env("PYORV_BROADCAST_ADDR", "localhost:4000");
-    EXPECT_EQ(client.broadcastTarget(), (std::pair<std::string, int>{"localhost", 4000}));
-    client.setBroadcastTarget("127.0.0.2", 5000);
-    EXPECT_EQ(client.broadcastTarget(), (std::pair<std::string, int>{"127.0.0.2", 5000}));
-  }
-  UDPClient other;
-  ScopedEnv bad("PYORV_BROADCAST_ADDR", "127.0.0.1:port");
-  EXPECT_THROW(other.broadcastTarget(), ValueError);
+  unsetenv(kVar);
 }
 
 // A broadcast to the simulator on loopback is checked end to end from Python

@@ -1,5 +1,6 @@
 """Fixtures: simulated devices on loopback and driver objects connected to them."""
 
+import asyncio
 import os
 import time
 
@@ -63,6 +64,12 @@ def heron(pair):
 
 
 @pytest.fixture
+def model(request):
+    """The trellis or heron pair, by model name: parametrize indirectly."""
+    return request.getfixturevalue("heron" if request.param == "HeronAin" else "trellis")
+
+
+@pytest.fixture
 def eth_sim(simulator):
     """A simulated Ethernet device."""
     return simulator.add_device(sim.DeviceConfig(model="Trellis", serial="SIMETH01"))
@@ -91,6 +98,18 @@ def last(sim_dev):
 def answer(data):
     """A per-device handler that answers every request with `data`."""
     return lambda ctx, req: ctx.reply(bytes(data))
+
+
+def run(coro):
+    return asyncio.run(coro)
+
+
+def refuses(sim_dev, error, *calls):
+    """Each call raises `error`, and nothing reaches the simulated device."""
+    for call in calls:
+        with pytest.raises(error):
+            call()
+    assert sim_dev.packets() == []
 
 
 def sent(sim_dev, cmd):

@@ -3,21 +3,15 @@ gateway and MAC read and written (and a new address seen by discovery), the
 MAC text form, the Wi-Fi LEDs' masks, power lines, bandwidth clamp, radio
 configuration, RSSI sign, and firmware statuses as negative codes."""
 
-import asyncio
-
 import pytest
 
 import pyorv
-from conftest import answer, wire
+from conftest import answer, refuses, run, wire
 
 SET_AP, GET_RSSI, SET_WIFI_CONFIGURATION, GET_WIFI_CONFIGURATION = 112, 113, 116, 117
 SET_WIFI_BANDWIDTH, GET_WIFI_BANDWIDTH, GET_GATEWAY, SET_GATEWAY = 118, 119, 124, 125
 READ_AND_GET_DI, SET_AND_WRITE_DO = 233, 234
 GET_IP, SET_IP, GET_MAC, SET_MAC = 243, 244, 245, 246
-
-
-def run(coro):
-    return asyncio.run(coro)
 
 
 # ---- addressing --------------------------------------------------------------------------
@@ -31,8 +25,8 @@ def test_address_and_mask_read_by_both_names(trellis):
     assert wire(s) == [(GET_IP, b"")] * 3
 
 
-def test_new_address_is_read_back_shared_with_the_device_and_seen_by_discovery(simulator,
-                                                                             trellis):
+def test_new_address_is_read_back_and_shared_with_the_device(trellis):
+    # (Discovery reporting a changed address: test_discovery.)
     dev, s = trellis
     assert dev.Net_setIPAddrAndSubmask("127.0.0.9", "255.255.0.0") == 0
     assert wire(s) == [(SET_IP, bytes([127, 0, 0, 9, 255, 255, 0, 0]))]
@@ -40,26 +34,9 @@ def test_new_address_is_read_back_shared_with_the_device_and_seen_by_discovery(s
     assert dev.ip_addr == "127.0.0.1"  # the address connected to, until a read
     assert dev.Net_getIPAddrAndSubmask() == ["127.0.0.9", "255.255.0.0"]
     assert dev.ip_addr == "127.0.0.9"  # one attribute with the device's address
-    port = simulator.start_discovery("127.0.0.1", 0)
-    finder = pyorv.DeviceFinder(verbose=False, broadcast_addr=f"127.0.0.1:{port}")
-    finder.connect(verbose=False)
-    try:
-        found = finder.Bcst_enumerateNetworkDevices()
-    finally:
-        finder.disconnect(verbose=False)
-        finder.close(verbose=False)
-    assert found == [["127.0.0.9", "255.255.0.0", "02:4f:52:56:00:0a", "Trellis"]]
-
-
-@pytest.mark.parametrize("ip, mask, sent", [
-    ("10.1.2.3", "255.0.0.0", [10, 1, 2, 3, 255, 0, 0, 0]),
-    ("1.2.3", "255.255.255.0", [1, 2, 0, 3, 255, 255, 255, 0]),  # the short forms of inet_aton
-    ("0x7f.1", "255.255.255.0", [127, 0, 0, 1, 255, 255, 255, 0]),
-])
-def test_set_address_text_forms(trellis, ip, mask, sent):
-    dev, s = trellis
-    assert run(dev.Sys_setIPAddrAndSubmask_async(ip, mask)) == 0
-    assert wire(s) == [(SET_IP, bytes(sent))]
+    # The text forms are those of inet_aton (test_convert).
+    assert run(dev.Sys_setIPAddrAndSubmask_async("1.2.3", "255.0.0.0")) == 0
+    assert wire(s)[-1] == (SET_IP, bytes([1, 2, 0, 3, 255, 0, 0, 0]))
 
 
 @pytest.mark.parametrize("call, error", [
@@ -75,9 +52,7 @@ def test_set_address_text_forms(trellis, ip, mask, sent):
 ])
 def test_address_argument_errors_send_nothing(trellis, call, error):
     dev, s = trellis
-    with pytest.raises(error):
-        call(dev)
-    assert s.packets() == []
+    refuses(s, error, lambda: call(dev))
 
 
 def test_gateway_read_set_and_read_back(trellis):
@@ -128,12 +103,6 @@ def test_short_address_reply_is_a_format_error(trellis):
         dev.Net_getMACAddr()
 
 
-def test_wifi_model_has_the_network_settings_too(heron):
-    dev, s = heron
-    assert dev.Net_getIPAddrAndSubmask() == ["127.0.0.1", "255.255.255.0"]
-    assert dev.Net_getMACAddr() == "2:4f:52:56:0:1"
-
-
 # ---- Wi-Fi: LEDs and power lines ---------------------------------------------------------
 
 @pytest.mark.parametrize("call, mask, state", [
@@ -157,23 +126,18 @@ def test_led_result_is_0_whatever_the_reply(heron):
     s.set_handler(SET_AND_WRITE_DO, answer([0x55]))
     assert dev.Wifi_setRedLED(1) == 0 and dev.Wifi_resetLED() == 0
     s.clear_packets()
-    with pytest.raises(TypeError):
-        dev.Wifi_setGreenLED("on")
-    assert s.packets() == []
+    refuses(s, TypeError, lambda: dev.Wifi_setGreenLED("on"))
 
 
 def test_simulated_board_keeps_the_led_latch_and_power_lines(heron):
     dev, s = heron
-    assert dev.Wifi_getPowerGoodStatus() == 1
-    assert dev.Wifi_getChargeStatus() == 0
     dev.Wifi_setBlueLED(5)
     dev.Wifi_setRedLED(1)
     assert s.state_get("wifi.leds") == 5
     dev.Wifi_resetLED()
     assert s.state_get("wifi.leds") == 0
     s.state_set("wifi.charging", 1)
-    s.state_set("wifi.power_good", 0)
-    assert dev.Wifi_getChargeStatus() == 1 and dev.Wifi_getPowerGoodStatus() == 0
+    assert dev.Wifi_getChargeStatus() == 1 and dev.Wifi_getPowerGoodStatus() == 1
 
 
 @pytest.mark.parametrize("word, power_good, charging", [
@@ -202,11 +166,8 @@ def test_bandwidth_is_clamped_to_1_and_read_back(heron, value, sent):
                                           (-1, ValueError)])
 def test_bandwidth_argument_errors_send_nothing(heron, value, error):
     dev, s = heron
-    with pytest.raises(error):
-        dev.Wifi_setBandwidth(value)
-    with pytest.raises(error):
-        run(dev.Wifi_setBandwidth_async(value))
-    assert s.packets() == []
+    refuses(s, error, lambda: dev.Wifi_setBandwidth(value),
+            lambda: run(dev.Wifi_setBandwidth_async(value)))
 
 
 def test_wifi_configuration_words(heron):
@@ -219,9 +180,7 @@ def test_wifi_configuration_words(heron):
     assert wire(s)[1] == (SET_WIFI_CONFIGURATION, bytes([0, 3, 1, 44]))
     assert wire(s)[3] == (SET_WIFI_CONFIGURATION, bytes([0x11, 0x70, 0xFF, 0xFF]))
     s.clear_packets()
-    with pytest.raises(pyorv.InputTypeNotCorrectError):
-        dev._setWifiConfiguration(3, 1.5)
-    assert s.packets() == []
+    refuses(s, pyorv.InputTypeNotCorrectError, lambda: dev._setWifiConfiguration(3, 1.5))
 
 
 @pytest.mark.parametrize("byte, dbm", [(200, -56), (255, -1), (0, -256)])
@@ -232,8 +191,10 @@ def test_rssi_is_the_reply_byte_less_256(heron, byte, dbm):
     assert run(dev.Wifi_readRSSI_async()) == dbm
 
 
-def test_simulated_rssi_and_access_point(heron):
+def test_simulated_rssi_access_point_and_network_settings(heron):
     dev, s = heron
+    assert dev.Net_getIPAddrAndSubmask() == ["127.0.0.1", "255.255.255.0"]
+    assert dev.Net_getMACAddr() == "2:4f:52:56:0:1"
     assert dev.Wifi_readRSSI() == -56
     s.state_set("wifi.rssi", -90)
     assert dev.Wifi_readRSSI() == -90
