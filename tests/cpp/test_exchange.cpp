@@ -127,6 +127,9 @@ TEST_F(Exchange, AReplyAfterADroppedOneIsTakenOnTheSecondAttempt) {
 }
 
 TEST_F(Exchange, StaleReplyInThePoolIsReturnedAtOnceAndTheNewOneStaysBehind) {
+  // The pool keeps the latest reply per key: the fresh reply is held back so
+  // that it cannot replace the stale one before the call looks.
+  sim_dev_->faults().delay_us = 100'000;
   dev_->echoPool().put(GET_DRIVER_INFO, {'o', 'l', 'd'});
   const Bytes out{0};
   Bytes first = dev_->echoPacket(GET_DRIVER_INFO, out, 1);
