@@ -8,6 +8,7 @@
 #include "bindings/devices.hpp"
 #include "bindings/twin.hpp"
 #include "link/constants.hpp"
+#include "link/fiber.hpp"
 #include "link/interrupt.hpp"
 #include "link/report.hpp"
 
@@ -16,7 +17,18 @@ namespace orv::py_bind {
 namespace {
 std::atomic<bool> g_alive{false};
 
+// Host code never runs on a fiber's stack (the interpreter may check that its
+// stack is the thread's): a report made by an awaitable's body is posted to
+// the loop and made there.
+bool deferredFromFiber(std::function<void()> report) {
+  Fiber* f = Fiber::current();
+  if (!f) return false;
+  f->reactor()->post(std::move(report));
+  return true;
+}
+
 void pyPrint(const std::string& line) {
+  if (deferredFromFiber([line] { pyPrint(line); })) return;
   if (!g_alive.load()) {
     std::cout << line << std::endl;
     return;
@@ -30,6 +42,7 @@ void pyPrint(const std::string& line) {
 }
 
 void pyWarning(ErrorId id, const std::string& msg) {
+  if (deferredFromFiber([id, msg] { pyWarning(id, msg); })) return;
   if (!g_alive.load()) {
     std::cerr << "Warning " << errorInfo(id).code << ": " << msg << std::endl;
     return;
