@@ -175,6 +175,20 @@ TEST(Lifecycle, ConnectCloseCyclesLeakNoThreadAndNoDescriptor) {
   EXPECT_EQ(fdCount(), fds);
 }
 
+// Close fails a blocking call that waits for its reply at once, not at the
+// end of its attempt.  (On a fiber: test_fiber.cpp.)
+TEST(Lifecycle, CloseFailsAWaitingBlockingCall) {
+  sim::Simulator sim;
+  auto& sd = sim.addDevice({.model = "Trellis"});
+  sd.faults().neverAnswer(kSilentCmd);
+  auto dev = std::make_shared<ETHDevice>(false);
+  dev->connect("127.0.0.1", sd.cmdPort(), false);
+  auto call = runDetached([dev] { dev->echoPacketWithRetry(kSilentCmd, Bytes{1}, 30); });
+  ASSERT_TRUE(sd.waitForPackets(1, 2s));
+  dev->close(false);
+  EXPECT_EQ(resultWithin(call, 2s), "DeviceClosedError");
+}
+
 // (USB through the virtual backend: CloseRace below and test_link.py.)
 TEST(Lifecycle, WifiUsesBothLinks) {
   sim::Simulator sim;
