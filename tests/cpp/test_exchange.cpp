@@ -77,6 +77,7 @@ TEST_F(Exchange, AReplyAfterADroppedOneIsTakenOnTheSecondAttempt) {
 }
 
 TEST_F(Exchange, StaleReplyInThePoolIsReturnedAtOnceAndTheNewOneStaysBehind) {
+  sim_dev_->faults().delay_us = 200000;  // the fresh reply cannot overtake the stale one
   dev_->echoPool().put(GET_DRIVER_INFO, {'o', 'l', 'd'});
   const Bytes out{0};
   Bytes first = dev_->echoPacket(GET_DRIVER_INFO, out, 1);
@@ -161,6 +162,7 @@ TEST(Lifecycle, ConnectCloseCyclesLeakNoThreadAndNoDescriptor) {
     d.echoPacketWithRetry(GET_DRIVER_INFO, out, 3);
     d.close(false);
   }
+  std::this_thread::sleep_for(100ms);  // the simulator notices the warm-up's hang-up
   size_t tasks = threadCount(), fds = fdCount();
   for (int i = 0; i < 200; ++i) {
     ETHDevice d(false);
