@@ -1,6 +1,5 @@
 // Awaitable exchanges on fibers: many calls pending on one thread, each ended
 // by its reply, its deadline, a cancel or the device's close.
-#include <dirent.h>
 #include <gtest/gtest.h>
 
 #include <condition_variable>
@@ -13,6 +12,7 @@
 #include "link/fiber.hpp"
 #include "sim/device.hpp"
 #include "sim/simulator.hpp"
+#include "test_util.hpp"
 
 using namespace orv;
 using namespace std::chrono_literals;
@@ -69,15 +69,6 @@ class TestLoop : public Reactor {
   uint64_t next_ = 0;
 };
 
-size_t threadCount() {
-  size_t n = 0;
-  if (DIR* d = opendir("/proc/self/task")) {
-    while (readdir(d)) ++n;
-    closedir(d);
-  }
-  return n;
-}
-
 // One awaitable call: its body on a fiber, its outcome kept.
 struct Call {
   std::unique_ptr<Fiber> fiber;
@@ -128,10 +119,10 @@ class Fibers : public ::testing::Test {
 };
 
 TEST_F(Fibers, ManyPendingCallsOnOneThreadEachGetAReply) {
-  const size_t threads = threadCount();
+  const size_t threads = testutil::threadCount();
   std::vector<std::unique_ptr<Call>> calls;
   for (int i = 0; i < 300; ++i) calls.push_back(start(GET_DRIVER_INFO, {0}, 3, 3));
-  EXPECT_EQ(threadCount(), threads);  // a pending call holds no thread
+  EXPECT_EQ(testutil::threadCount(), threads);  // a pending call holds no thread
   ASSERT_TRUE(loop_->runUntil(
       [&] { return std::all_of(calls.begin(), calls.end(), [](auto& c) { return c->done; }); },
       20));

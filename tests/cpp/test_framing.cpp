@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
-#include <ostream>
 #include <random>
 #include <string>
 #include <vector>
@@ -44,39 +43,31 @@ std::string describe(const Packets& ps) {
 
 // ---------------------------------------------------------------- building
 
-struct PrepareCase {
-  const char* name;
-  int cmd;
-  std::vector<int64_t> data;
-  Bytes wire;
-};
-
-std::ostream& operator<<(std::ostream& os, const PrepareCase& c) { return os << c.name; }
-
-class PreparePacketTest : public ::testing::TestWithParam<PrepareCase> {};
-
-TEST_P(PreparePacketTest, BuildsWireBytes) {
-  const PrepareCase& c = GetParam();
-  EXPECT_EQ(hex(preparePacket(c.cmd, std::span<const int64_t>(c.data))), hex(c.wire));
-  // The byte overload agrees whenever the values are bytes already.
-  if (std::all_of(c.data.begin(), c.data.end(), [](int64_t v) { return v >= 0 && v < 256; })) {
-    const Bytes as_bytes(c.data.begin(), c.data.end());
-    EXPECT_EQ(hex(preparePacket(c.cmd, std::span(as_bytes))), hex(c.wire));
+TEST(PreparePacket, BuildsWireBytes) {
+  struct Case {
+    int cmd;
+    std::vector<int64_t> data;
+    Bytes wire;
+  };
+  for (const Case& c : std::vector<Case>{
+           {GET_DRIVER_INFO, {0}, {2, 0, 2, 0xF0, 0, 0x0D, 0x0A}},
+           {AHRS_START, {}, {2, 0, 2, 0x24, 0x01, 0x0D, 0x0A}},  // two bytes, no data
+           {200, {}, {2, 0, 1, 200, 0x0D, 0x0A}},
+           {255, {7}, {2, 0, 2, 0xFF, 7, 0x0D, 0x0A}},             // the largest one-byte command
+           {256, {7}, {2, 0, 3, 0x01, 0x00, 7, 0x0D, 0x0A}},       // the smallest two-byte one
+           {OPEN_CAN, {1}, {2, 0, 2, 0x30, 1, 0x0D, 0x0A}},        // sent as one byte
+           {183, {2, 13, 10}, {2, 0, 4, 183, 2, 13, 10, 13, 10}},  // framing bytes in the data
+           {100, {256, -1, 511}, {2, 0, 4, 100, 0, 0xFF, 0xFF, 13, 10}},  // values modulo 256
+       }) {
+    SCOPED_TRACE("command " + std::to_string(c.cmd));
+    EXPECT_EQ(hex(preparePacket(c.cmd, std::span<const int64_t>(c.data))), hex(c.wire));
+    // The byte overload agrees whenever the values are bytes already.
+    if (std::all_of(c.data.begin(), c.data.end(), [](int64_t v) { return v >= 0 && v < 256; })) {
+      const Bytes as_bytes(c.data.begin(), c.data.end());
+      EXPECT_EQ(hex(preparePacket(c.cmd, std::span(as_bytes))), hex(c.wire));
+    }
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Framing, PreparePacketTest,
-    ::testing::Values(
-        PrepareCase{"GetDriverInfo", GET_DRIVER_INFO, {0}, {2, 0, 2, 0xF0, 0, 0x0D, 0x0A}},
-        PrepareCase{"AhrsStartNoData", AHRS_START, {}, {2, 0, 2, 0x24, 0x01, 0x0D, 0x0A}},
-        PrepareCase{"OneByteNoData", 200, {}, {2, 0, 1, 200, 0x0D, 0x0A}},
-        PrepareCase{"Largest1Byte", 255, {7}, {2, 0, 2, 0xFF, 7, 0x0D, 0x0A}},
-        PrepareCase{"Smallest2Byte", 256, {7}, {2, 0, 3, 0x01, 0x00, 7, 0x0D, 0x0A}},
-        PrepareCase{"OpenCanSentAsOneByte", OPEN_CAN, {1}, {2, 0, 2, 0x30, 1, 0x0D, 0x0A}},
-        PrepareCase{"FramingBytesInData", 183, {2, 13, 10}, {2, 0, 4, 183, 2, 13, 10, 13, 10}},
-        PrepareCase{"ValuesModulo256", 100, {256, -1, 511}, {2, 0, 4, 100, 0, 0xFF, 0xFF, 13, 10}}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(PreparePacket, LengthFieldIsBigEndianForLongData) {
   const Bytes data(300, 0xAB);
@@ -86,50 +77,43 @@ TEST(PreparePacket, LengthFieldIsBigEndianForLongData) {
 
 // ------------------------------------------------------------- reassembly
 
-struct WireCase {
-  const char* name;
-  Bytes wire;
-  Packets expected;
-};
-
-std::ostream& operator<<(std::ostream& os, const WireCase& c) { return os << c.name; }
-
-class SplitterWireTest : public ::testing::TestWithParam<WireCase> {};
-
-TEST_P(SplitterWireTest, Decodes) {
-  Splitter sp;
-  EXPECT_EQ(sp.feed(GetParam().wire), GetParam().expected);
+TEST(Splitter, DecodesWireBytes) {
+  struct Case {
+    const char* name;
+    Bytes wire;
+    Packets expected;
+  };
+  for (const Case& c : std::vector<Case>{
+           {"EmptyDataLengthOne", {2, 0, 1, 0xF0, 0x0D, 0x0A}, {{0xF0, {}}}},
+           {"AhrsStart", {2, 0, 4, 0x24, 0x01, 7, 8, 0x0D, 0x0A}, {{AHRS_START, {7, 8}}}},
+           {"AhrsStartNoData", {2, 0, 2, 0x24, 0x01, 0x0D, 0x0A}, {{AHRS_START, {}}}},
+           // 48 opens a two-byte command on receipt; 49 is a one-byte command.
+           {"FirstByte48", {2, 0, 3, 0x30, 0x05, 7, 0x0D, 0x0A}, {{0x3005, {7}}}},
+           {"OpenCanComesBackTwoByte", {2, 0, 2, 0x30, 1, 0x0D, 0x0A}, {{0x3001, {}}}},
+           {"FirstByte49", {2, 0, 3, 0x31, 0x05, 7, 0x0D, 0x0A}, {{START_CAN, {5, 7}}}},
+           // A length that leaves no room for the second command byte reads the CR.
+           {"TwoByteLengthOne", {2, 0, 1, 0x05, 0x0D, 0x0A}, {{0x050D, {}}}},
+           // A zero length reads the command on the end mark itself.
+           {"LengthZero", {2, 0, 0, 0x0D, 0x0A}, {{0x0D0A, {}}}},
+           {"JunkAheadIsDropped", {0, 2, 0x0D, 0x0A, 2, 0, 1, 0x60, 0x0D, 0x0A}, {{0x60, {}}}},
+           {"NegativeLengthNeverMatches", {2, 0xFF, 0xFF, 0x0D, 0x0A}, {}},
+           {"NoStartByte", {0, 0, 1, 0x60, 0x0D, 0x0A}, {}},
+           {"EndMarkInsidePayload",
+            pkt(GET_DRIVER_INFO, {1, 0x0D, 0x0A, 2}),
+            {{GET_DRIVER_INFO, {1, 0x0D, 0x0A, 2}}}},
+           {"TwoPacketsInOneRead",
+            cat({pkt(240, {1, 2}), pkt(AHRS_START, {9})}),
+            {{240, {1, 2}}, {AHRS_START, {9}}}},
+           // A start byte in the payload agrees with the same end mark: the
+           // packet's own, earlier, start byte wins ...
+           {"EarliestStartByteWins", pkt(0x99, {2, 0, 1, 0x41}), {{0x99, {2, 0, 1, 0x41}}}},
+           // ... and junk ahead with an agreeing start byte wins over the packet.
+           {"AgreeingJunkWins", cat({{2, 0, 4}, pkt(0x60, {})}), {{0x0200, {1, 0x60}}}},
+       }) {
+    Splitter sp;
+    EXPECT_EQ(sp.feed(c.wire), c.expected) << c.name;
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Framing, SplitterWireTest,
-    ::testing::Values(
-        WireCase{"EmptyDataLengthOne", {2, 0, 1, 0xF0, 0x0D, 0x0A}, {{0xF0, {}}}},
-        WireCase{"AhrsStart", {2, 0, 4, 0x24, 0x01, 7, 8, 0x0D, 0x0A}, {{AHRS_START, {7, 8}}}},
-        WireCase{"AhrsStartNoData", {2, 0, 2, 0x24, 0x01, 0x0D, 0x0A}, {{AHRS_START, {}}}},
-        // 48 opens a two-byte command on receipt; 49 is a one-byte command.
-        WireCase{"FirstByte48", {2, 0, 3, 0x30, 0x05, 7, 0x0D, 0x0A}, {{0x3005, {7}}}},
-        WireCase{"OpenCanComesBackTwoByte", {2, 0, 2, 0x30, 1, 0x0D, 0x0A}, {{0x3001, {}}}},
-        WireCase{"FirstByte49", {2, 0, 3, 0x31, 0x05, 7, 0x0D, 0x0A}, {{START_CAN, {5, 7}}}},
-        // A length that leaves no room for the second command byte reads the CR.
-        WireCase{"TwoByteLengthOne", {2, 0, 1, 0x05, 0x0D, 0x0A}, {{0x050D, {}}}},
-        // A zero length reads the command on the end mark itself.
-        WireCase{"LengthZero", {2, 0, 0, 0x0D, 0x0A}, {{0x0D0A, {}}}},
-        WireCase{"JunkAheadIsDropped", {0, 2, 0x0D, 0x0A, 2, 0, 1, 0x60, 0x0D, 0x0A}, {{0x60, {}}}},
-        WireCase{"NegativeLengthNeverMatches", {2, 0xFF, 0xFF, 0x0D, 0x0A}, {}},
-        WireCase{"NoStartByte", {0, 0, 1, 0x60, 0x0D, 0x0A}, {}},
-        WireCase{"EndMarkInsidePayload",
-                 pkt(GET_DRIVER_INFO, {1, 0x0D, 0x0A, 2}),
-                 {{GET_DRIVER_INFO, {1, 0x0D, 0x0A, 2}}}},
-        WireCase{"TwoPacketsInOneRead",
-                 cat({pkt(240, {1, 2}), pkt(AHRS_START, {9})}),
-                 {{240, {1, 2}}, {AHRS_START, {9}}}},
-        // A start byte in the payload agrees with the same end mark: the
-        // packet's own, earlier, start byte wins ...
-        WireCase{"EarliestStartByteWins", pkt(0x99, {2, 0, 1, 0x41}), {{0x99, {2, 0, 1, 0x41}}}},
-        // ... and junk ahead with an agreeing start byte wins over the packet.
-        WireCase{"AgreeingJunkWins", cat({{2, 0, 4}, pkt(0x60, {})}), {{0x0200, {1, 0x60}}}}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(Splitter, LengthOf32768OrMoreNeverMatches) {
   const Bytes huge(32767, 0x55);  // length 32768: read back as -32768
@@ -178,18 +162,11 @@ class StreamMaker {
   }
 
   int command() {
-    switch (below(5)) {
-      case 0:
-        return 49 + static_cast<int>(below(207));
-      case 1:
-        return 256 + static_cast<int>(below(0x3100 - 256));
-      case 2:
-        return static_cast<int>(below(49));
-      case 3:
-        return AHRS_START;
-      default:
-        return static_cast<int>(below(65536));
-    }
+    const int kind = static_cast<int>(below(5));
+    if (kind == 3) return AHRS_START;
+    const size_t range[] = {207, 0x3100 - 256, 49, 0, 65536};
+    const int base[] = {49, 256, 0, 0, 0};
+    return base[kind] + static_cast<int>(below(range[kind]));
   }
 
   void piece(Bytes& s, size_t max_data) {
@@ -238,29 +215,14 @@ class StreamMaker {
     }
   }
 
-  std::vector<size_t> chunks(size_t total) {
+  // Reads of the stream: whole, byte by byte, USB transfers, short or long
+  // reads, or (max_read given) up to max_read bytes each.
+  std::vector<size_t> chunks(size_t total, size_t max_read = 0) {
     std::vector<size_t> sizes;
-    const size_t mode = below(5);
+    const size_t mode = max_read ? 5 : below(5);
     for (size_t done = 0; done < total;) {
-      size_t n = 0;
-      switch (mode) {
-        case 0:
-          n = total;
-          break;
-        case 1:
-          n = 1;
-          break;
-        case 2:
-          n = USB_PKT_SIZE;
-          break;
-        case 3:
-          n = 1 + below(200);
-          break;
-        default:
-          n = 1 + below(TCP_PKT_LENGTH_MAX * 2);
-          break;
-      }
-      n = std::min(n, total - done);
+      const size_t most[] = {total, 1, USB_PKT_SIZE, 200, TCP_PKT_LENGTH_MAX * 2, max_read};
+      const size_t n = std::min(mode < 3 ? most[mode] : 1 + below(most[mode]), total - done);
       sizes.push_back(n);
       done += n;
     }
@@ -346,13 +308,7 @@ TEST(SplitterDifferential, LongStreamsAcrossTrimming) {
       }
     }
     SCOPED_TRACE("seed " + std::to_string(seed));
-    std::vector<size_t> chunks;
-    for (size_t done = 0; done < s.size();) {
-      const size_t n = std::min(s.size() - done, 1 + mk.below(3000));
-      chunks.push_back(n);
-      done += n;
-    }
-    runDifferential(s, chunks);
+    runDifferential(s, mk.chunks(s.size(), 3000));
     if (HasFatalFailure()) return;
   }
 }
@@ -373,74 +329,46 @@ TEST(Splitter, LongestPacketSurvivesTrimming) {
   EXPECT_EQ(sp.bufferedBytes(), 0u);
 }
 
-struct JunkCase {
-  const char* name;
-  Bytes pattern;
-};
-
-std::ostream& operator<<(std::ostream& os, const JunkCase& c) { return os << c.name; }
-
-class SplitterJunkTest : public ::testing::TestWithParam<JunkCase> {};
-
-// Neither pattern ever forms an agreeing packet, so nothing comes out; the
-// buffer stays bounded; a packet after it is found.
-TEST_P(SplitterJunkTest, EndlessJunkKeepsMemoryBounded) {
-  const Bytes& pattern = GetParam().pattern;
-  Bytes block;
-  while (block.size() < 4096) block.insert(block.end(), pattern.begin(), pattern.end());
-  Splitter sp;
-  Packets got;
-  size_t most = 0;
-  for (size_t total = 0; total < (10u << 20); total += block.size()) {
-    sp.feed(block, got);
-    most = std::max(most, sp.bufferedBytes());
+// None of these patterns ever forms an agreeing packet, so nothing comes out;
+// the buffer stays bounded; a packet after it is found.
+TEST(Splitter, EndlessJunkKeepsMemoryBounded) {
+  for (const Bytes& pattern : std::vector<Bytes>{{2, 0x7F, 0xFF, 0x0D, 0x0A, 2, 0, 5},
+                                                 {2, 0x7F, 0xFF, 2, 0, 5},  // starts only
+                                                 {0x0D, 0x0A, 0x0D}}) {     // end marks only
+    SCOPED_TRACE(hex(pattern));
+    Bytes block;
+    while (block.size() < 4096) block.insert(block.end(), pattern.begin(), pattern.end());
+    Splitter sp;
+    Packets got;
+    size_t most = 0;
+    for (size_t total = 0; total < (10u << 20); total += block.size()) {
+      sp.feed(block, got);
+      most = std::max(most, sp.bufferedBytes());
+    }
+    EXPECT_TRUE(got.empty());
+    EXPECT_LT(most, 4 * Splitter::kTrimThreshold);
+    // Out of reach of every junk start byte, a packet comes out whole.
+    sp.feed(Bytes(40000, 0), got);
+    sp.feed(pkt(0x99, {2, 0x0D, 0x0A}), got);
+    EXPECT_EQ(got, (Packets{{0x99, {2, 0x0D, 0x0A}}}));
   }
-  EXPECT_TRUE(got.empty());
-  EXPECT_LT(most, 4 * Splitter::kTrimThreshold);
-  // Out of reach of every junk start byte, a packet comes out whole.
-  sp.feed(Bytes(40000, 0), got);
-  sp.feed(pkt(0x99, {2, 0x0D, 0x0A}), got);
-  EXPECT_EQ(got, (Packets{{0x99, {2, 0x0D, 0x0A}}}));
 }
-
-INSTANTIATE_TEST_SUITE_P(Framing, SplitterJunkTest,
-                         ::testing::Values(JunkCase{"StartsAndEndMarks",
-                                                    {2, 0x7F, 0xFF, 0x0D, 0x0A, 2, 0, 5}},
-                                           JunkCase{"StartsOnly", {2, 0x7F, 0xFF, 2, 0, 5}},
-                                           JunkCase{"EndMarksOnly", {0x0D, 0x0A, 0x0D}}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 // ---------------------------------------------------------- classification
 // (The routing tests of test_pools.cpp classify every stream command, the
 // broadcast answers by their first byte and the echo replies; these are the
 // edges, one per kind.)
 
-struct ClassCase {
-  const char* name;
-  int cmd;
-  Bytes data;
-  CmdType type;
-  const char* word;
-};
-
-std::ostream& operator<<(std::ostream& os, const ClassCase& c) { return os << c.name; }
-
-class CheckCommandTypeTest : public ::testing::TestWithParam<ClassCase> {};
-
-TEST_P(CheckCommandTypeTest, Classifies) {
-  const ClassCase& c = GetParam();
-  EXPECT_EQ(checkCommandType(c.cmd, c.data), c.type);
-  EXPECT_STREQ(cmdTypeWord(checkCommandType(c.cmd, c.data)), c.word);
+TEST(CheckCommandType, Classifies) {
+  EXPECT_EQ(checkCommandType(AHRS_START, Bytes{5}), CmdType::Streaming);
+  EXPECT_EQ(checkCommandType(CHECK_MAC_AND_REBOOT, Bytes{1, 0}), CmdType::Broadcast);  // answer
+  EXPECT_EQ(checkCommandType(CHECK_MAC_AND_SET_IP, Bytes{}), CmdType::Ignore);
+  EXPECT_EQ(checkCommandType(AHRS_START - 1, Bytes{1}), CmdType::Echo);
+  EXPECT_STREQ(cmdTypeWord(CmdType::Streaming), "streaming");
+  EXPECT_STREQ(cmdTypeWord(CmdType::Broadcast), "broadcast");
+  EXPECT_STREQ(cmdTypeWord(CmdType::Ignore), "ignore");
+  EXPECT_STREQ(cmdTypeWord(CmdType::Echo), "echo");
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Framing, CheckCommandTypeTest,
-    ::testing::Values(
-        ClassCase{"AhrsStart", AHRS_START, {5}, CmdType::Streaming, "streaming"},
-        ClassCase{"RebootAnswer", CHECK_MAC_AND_REBOOT, {1, 0}, CmdType::Broadcast, "broadcast"},
-        ClassCase{"BroadcastEmpty", CHECK_MAC_AND_SET_IP, {}, CmdType::Ignore, "ignore"},
-        ClassCase{"NextToAhrs", AHRS_START - 1, {1}, CmdType::Echo, "echo"}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace
 }  // namespace orv

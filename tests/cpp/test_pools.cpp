@@ -10,6 +10,7 @@
 #include "link/device.hpp"
 #include "link/error.hpp"
 #include "link/interrupt.hpp"
+#include "test_util.hpp"
 
 using namespace orv;
 using namespace std::chrono_literals;
@@ -132,39 +133,32 @@ TEST(StreamQueue, WaitSizeAndBound) {
   EXPECT_FALSE(q.waitSize(10));
 }
 
-struct RouteCase {
-  const char* name;
-  int cmd;
-  Bytes data;
-  StreamKey key;
-  Bytes stored;
-};
-
-class StreamRouting : public ::testing::TestWithParam<RouteCase> {};
-
-TEST_P(StreamRouting, KeyAndStoredBytes) {
-  PoolDevice d;
-  const auto& c = GetParam();
-  d.putToDataPool(c.cmd, c.data);
-  auto keys = d.streamPool().keys();
-  ASSERT_EQ(keys.size(), 1u);
-  EXPECT_EQ(keys[0], c.key);
-  EXPECT_EQ(*d.streamPool().get(c.key)->tryPop(), c.stored);
-  EXPECT_EQ(d.echoPool().size(), 0u);
+TEST(Routing, StreamRecordsGoToTheirKeyWithoutTheKeyBytes) {
+  struct Case {
+    int cmd;
+    Bytes data;
+    StreamKey key;
+    Bytes stored;
+  };
+  for (const Case& c : std::vector<Case>{
+           {START_AI_STREAMING, {3, 1, 9, 8}, StreamKey::triple(183, 3, 1), {9, 8}},
+           {START_AI_STREAMING_VARIABLE, {3, 1, 9}, StreamKey::triple(190, 0, 0), {9}},
+           {START_CAN, {1, 0, 5, 6}, StreamKey::one(49), {5, 6}},
+           {AHRS_START, {1, 5, 6}, StreamKey::one(9217), {5, 6}},
+           {START_UART_READING, {2, 0, 65}, StreamKey::pair(129, 2), {65}},
+           {START_AO_STREAMING, {1, 2}, StreamKey::one(8265), {1, 2}},
+           {START_MOTION_MONITORING, {4}, StreamKey::one(7216), {4}},
+       }) {
+    SCOPED_TRACE("command " + std::to_string(c.cmd));
+    PoolDevice d;
+    d.putToDataPool(c.cmd, c.data);
+    auto keys = d.streamPool().keys();
+    ASSERT_EQ(keys.size(), 1u);
+    EXPECT_EQ(keys[0], c.key);
+    EXPECT_EQ(*d.streamPool().get(c.key)->tryPop(), c.stored);
+    EXPECT_EQ(d.echoPool().size(), 0u);
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Link, StreamRouting,
-    ::testing::Values(
-        RouteCase{"ai", START_AI_STREAMING, {3, 1, 9, 8}, StreamKey::triple(183, 3, 1), {9, 8}},
-        RouteCase{
-            "ai_var", START_AI_STREAMING_VARIABLE, {3, 1, 9}, StreamKey::triple(190, 0, 0), {9}},
-        RouteCase{"can", START_CAN, {1, 0, 5, 6}, StreamKey::one(49), {5, 6}},
-        RouteCase{"ahrs", AHRS_START, {1, 5, 6}, StreamKey::one(9217), {5, 6}},
-        RouteCase{"uart", START_UART_READING, {2, 0, 65}, StreamKey::pair(129, 2), {65}},
-        RouteCase{"ao", START_AO_STREAMING, {1, 2}, StreamKey::one(8265), {1, 2}},
-        RouteCase{"motion_mon", START_MOTION_MONITORING, {4}, StreamKey::one(7216), {4}}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(Routing, MotionRepliesAreKeyedByConnectorCommandAndAxis) {
   PoolDevice d;
@@ -213,14 +207,8 @@ TEST(Errors, TableCodesMessagesAndFirmwareMap) {
     int code;
   } cases[] = {{10, -7000}, {13, -7003}, {27, -7011}, {40, -7012},  {57, -7022},
                {73, -7026}, {80, -7027}, {1, -7028},  {255, -7028}, {14, -7028}};
-  for (auto c : cases) {
-    try {
-      checkFirmwareError(c.status);
-      ADD_FAILURE() << "status " << c.status << " did not raise";
-    } catch (const Error& e) {
-      EXPECT_EQ(e.code(), c.code) << "status " << c.status;
-    }
-  }
+  for (auto c : cases)
+    EXPECT_EQ(testutil::errorCode([&] { checkFirmwareError(c.status); }), c.code) << c.status;
   EXPECT_EQ(Error(firmwareErrorFor(13)).msg(), "The HAL error in the firmware.");
 }
 

@@ -2,12 +2,11 @@
 // (Discovery and the built-in answers a driver sees are checked end to end
 // from Python: test_discovery.py, test_system.py and the other module tests.)
 #include <arpa/inet.h>
-#include <dirent.h>
 #include <netinet/in.h>
-#include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <chrono>
 #include <cstring>
 #include <memory>
@@ -18,9 +17,12 @@
 
 #include "gtest/gtest.h"
 #include "link/constants.hpp"
+#include "link/error.hpp"
 #include "link/framing.hpp"
+#include "link/transport.hpp"
 #include "link/usb_backend.hpp"
 #include "sim/simulator.hpp"
+#include "test_util.hpp"
 
 namespace {
 
@@ -29,7 +31,6 @@ using orv::Bytes;
 using orv::RawPacket;
 using Packets = std::vector<RawPacket>;
 using orv::sim::Channel;
-using orv::sim::DeviceConfig;
 using orv::sim::Link;
 using orv::sim::Simulator;
 using Clock = std::chrono::steady_clock;
@@ -43,129 +44,83 @@ Bytes frame(int cmd, const Bytes& data) {
 
 Bytes text(std::string_view s) { return Bytes(s.begin(), s.end()); }
 
-// A TCP client made of plain sockets.
-class RawTcp {
+// A host on the TCP link: the driver's own client, without the device layer.
+class TcpHost {
  public:
-  explicit RawTcp(int port) {
-    fd_ = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    sockaddr_in a{};
-    a.sin_family = AF_INET;
-    a.sin_port = htons(static_cast<uint16_t>(port));
-    a.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    if (::connect(fd_, reinterpret_cast<sockaddr*>(&a), sizeof a) != 0) {
-      ::close(fd_);
-      fd_ = -1;
+  explicit TcpHost(int port) {
+    try {
+      ok_ = client_.connect("127.0.0.1", port);
+    } catch (const std::exception&) {
     }
   }
-  ~RawTcp() {
-    if (fd_ >= 0) ::close(fd_);
-  }
-  bool ok() const { return fd_ >= 0; }
+  bool ok() const { return ok_; }
+  void send(const Bytes& b) { client_.sendPacket(b); }
 
-  void send(const Bytes& b) const {
-    ASSERT_EQ(::send(fd_, b.data(), b.size(), MSG_NOSIGNAL), static_cast<ssize_t>(b.size()));
-  }
-
-  // One recv, waiting at most `timeout`; nullopt on timeout, empty on EOF.
-  std::optional<Bytes> recvOnce(std::chrono::milliseconds timeout) const {
-    pollfd p{fd_, POLLIN, 0};
-    if (::poll(&p, 1, static_cast<int>(timeout.count())) <= 0) return std::nullopt;
-    Bytes b(65536);
-    const ssize_t n = ::recv(fd_, b.data(), b.size(), 0);
-    b.resize(n > 0 ? static_cast<size_t>(n) : 0);
-    return b;
-  }
-
-  // Exactly n bytes, or fewer when the time runs out or the peer closes.
-  Bytes readBytes(size_t n, std::chrono::milliseconds timeout = 2000ms) const {
-    Bytes out;
-    const auto end = Clock::now() + timeout;
-    while (out.size() < n) {
-      const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now());
-      if (left.count() <= 0) break;
-      pollfd p{fd_, POLLIN, 0};
-      if (::poll(&p, 1, static_cast<int>(left.count())) <= 0) break;
-      uint8_t buf[4096];
-      const ssize_t r = ::recv(fd_, buf, std::min(sizeof buf, n - out.size()), 0);
-      if (r <= 0) break;
-      out.insert(out.end(), buf, buf + r);
+  // One read, waiting at most `timeout`; nullopt on timeout, empty on EOF.
+  std::optional<Bytes> recvOnce(std::chrono::milliseconds timeout) {
+    client_.setTimeout(static_cast<double>(std::max<long>(timeout.count(), 1)) / 1000);
+    try {
+      return client_.recvPacket(65536);
+    } catch (const orv::OSError& e) {
+      if (e.err() == ETIMEDOUT) return std::nullopt;
+      return Bytes{};  // a reset link ends the stream too
     }
-    return out;
+  }
+
+  // The next n bytes, or fewer when the time runs out or the peer closes.
+  Bytes readBytes(size_t n, std::chrono::milliseconds timeout = 2000ms) {
+    readUntil([&] { return bytes_.size() >= n; }, timeout);
+    return take(bytes_, n);
   }
 
   // Packets, cut by the splitter, until `count` arrived or the time ran out.
-  std::vector<RawPacket> readPackets(size_t count, std::chrono::milliseconds timeout = 2000ms) {
-    const auto end = Clock::now() + timeout;
-    while (pending_.size() < count) {
-      const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now());
-      if (left.count() <= 0) break;
-      auto b = recvOnce(left);
-      if (!b || b->empty()) break;
-      splitter_.feed(*b, pending_);
-    }
-    std::vector<RawPacket> out;
-    const size_t n = std::min(count, pending_.size());
-    out.assign(pending_.begin(), pending_.begin() + static_cast<long>(n));
-    pending_.erase(pending_.begin(), pending_.begin() + static_cast<long>(n));
-    return out;
+  Packets readPackets(size_t count, std::chrono::milliseconds timeout = 2000ms) {
+    auto enough = [&] {
+      client_.splitter().feed(bytes_, packets_);
+      bytes_.clear();
+      return packets_.size() >= count;
+    };
+    readUntil(enough, timeout);
+    return take(packets_, count);
   }
 
   // True when the peer ended the stream within the time.
-  bool seesEof(std::chrono::milliseconds timeout = 2000ms) const {
+  bool seesEof(std::chrono::milliseconds timeout = 2000ms) {
+    return readUntil([] { return false; }, timeout);
+  }
+
+ private:
+  // Reads until done(); false when the time ran out first, true at the end of the stream.
+  template <class Done>
+  bool readUntil(Done done, std::chrono::milliseconds timeout) {
     const auto end = Clock::now() + timeout;
-    while (Clock::now() < end) {
+    while (!done() && Clock::now() < end) {
       auto b = recvOnce(std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now()));
       if (b && b->empty()) return true;
+      if (b) bytes_.insert(bytes_.end(), b->begin(), b->end());
     }
     return false;
   }
-
- private:
-  int fd_ = -1;
-  orv::Splitter splitter_;
-  std::vector<RawPacket> pending_;
-};
-
-// A UDP socket on 127.0.0.1 and an ephemeral port.
-class RawUdp {
- public:
-  RawUdp() {
-    fd_ = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-    sockaddr_in a{};
-    a.sin_family = AF_INET;
-    a.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    ::bind(fd_, reinterpret_cast<sockaddr*>(&a), sizeof a);
-    socklen_t len = sizeof a;
-    ::getsockname(fd_, reinterpret_cast<sockaddr*>(&a), &len);
-    port_ = ntohs(a.sin_port);
-  }
-  ~RawUdp() { ::close(fd_); }
-  int port() const { return port_; }
-  void sendTo(int port, const Bytes& b) const {
-    sockaddr_in a{};
-    a.sin_family = AF_INET;
-    a.sin_port = htons(static_cast<uint16_t>(port));
-    a.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    ::sendto(fd_, b.data(), b.size(), 0, reinterpret_cast<sockaddr*>(&a), sizeof a);
+  template <class V>
+  static V take(V& from, size_t n) {
+    const auto cut = from.begin() + static_cast<long>(std::min(n, from.size()));
+    V out(from.begin(), cut);
+    from.erase(from.begin(), cut);
+    return out;
   }
 
- private:
-  int fd_ = -1;
-  int port_ = 0;
+  orv::TCPClient client_;
+  bool ok_ = false;
+  Bytes bytes_;
+  Packets packets_;
 };
-
-DeviceConfig ethConfig(std::string driver_info = "Trellis_SIM_1.2.3") {
-  DeviceConfig c;
-  c.driver_info = std::move(driver_info);
-  return c;
-}
 
 // --- one request -------------------------------------------------------------
 
 TEST(SimTcp, OverrideAndFallbackHandlers) {
   Simulator sim;
-  auto& dev = sim.addDevice(ethConfig());
-  RawTcp c(dev.cmdPort());
+  auto& dev = sim.addDevice({.driver_info = "Trellis_SIM_1.2.3"});
+  TcpHost c(dev.cmdPort());
   ASSERT_TRUE(c.ok());
   dev.setHandler(orv::GET_DRIVER_INFO, [](orv::sim::Context& ctx, const orv::sim::Request& req) {
     ctx.reply(Bytes{0xAB, static_cast<uint8_t>(req.data.size())});
@@ -185,12 +140,12 @@ TEST(SimTcp, OverrideAndFallbackHandlers) {
 
 TEST(SimTcp, NewConnectionReplacesTheOldOne) {
   Simulator sim;
-  auto& dev = sim.addDevice(ethConfig());
-  RawTcp first(dev.cmdPort());
+  auto& dev = sim.addDevice({});
+  TcpHost first(dev.cmdPort());
   ASSERT_TRUE(first.ok());
   first.send(frame(GET_SERIAL_NUMBER, {}));
   ASSERT_EQ(first.readPackets(1).size(), 1u);
-  RawTcp second(dev.cmdPort());
+  TcpHost second(dev.cmdPort());
   ASSERT_TRUE(second.ok());
   EXPECT_TRUE(first.seesEof());
   second.send(frame(GET_SERIAL_NUMBER, {}));
@@ -223,11 +178,9 @@ TEST(SimRegistry, ModuleHandlersServeEveryDeviceKeepPerDeviceStateAndWinOverCore
   orv::sim::registerHandler(kSecond, tag(1), orv::sim::kModulePriority);
 
   Simulator sim;
-  auto& a = sim.addDevice(ethConfig());
-  DeviceConfig cb = ethConfig();
-  cb.serial = "SIM00002";
-  auto& b = sim.addDevice(cb);
-  RawTcp ca(a.cmdPort()), cbc(b.cmdPort());
+  auto& a = sim.addDevice({});
+  auto& b = sim.addDevice({.serial = "SIM00002"});
+  TcpHost ca(a.cmdPort()), cbc(b.cmdPort());
   ASSERT_TRUE(ca.ok() && cbc.ok());
   for (int cmd : {kTestCmd, kTestCmd, kFirst, kSecond}) ca.send(frame(cmd, {}));
   cbc.send(frame(kTestCmd, {}));
@@ -245,8 +198,8 @@ TEST(SimRegistry, ModuleHandlersServeEveryDeviceKeepPerDeviceStateAndWinOverCore
 class SimFaults : public ::testing::Test {
  protected:
   void SetUp() override {
-    dev_ = &sim_.addDevice(ethConfig());
-    client_ = std::make_unique<RawTcp>(dev_->cmdPort());
+    dev_ = &sim_.addDevice({});
+    client_ = std::make_unique<TcpHost>(dev_->cmdPort());
     ASSERT_TRUE(client_->ok());
   }
   Bytes ask() {
@@ -255,7 +208,7 @@ class SimFaults : public ::testing::Test {
   }
   Simulator sim_;
   orv::sim::SimDevice* dev_ = nullptr;
-  std::unique_ptr<RawTcp> client_;
+  std::unique_ptr<TcpHost> client_;
   const Bytes reply_ = frame(GET_SERIAL_NUMBER, text("SIM00001"));
 };
 
@@ -291,11 +244,9 @@ TEST_F(SimFaults, JunkGoesAheadOfEachReply) {
 
 TEST(SimWifi, StreamsOnTheDataLinkWhileCommandsAnswerOnTheCommandLink) {
   Simulator sim;
-  DeviceConfig cfg = ethConfig("HeronAinImu_SIM");
-  cfg.link = Link::Wifi;
-  auto& dev = sim.addDevice(cfg);
+  auto& dev = sim.addDevice({.link = Link::Wifi, .driver_info = "HeronAinImu_SIM"});
   ASSERT_NE(dev.cmdPort(), dev.dataPort());
-  RawTcp data(dev.dataPort()), cmd(dev.cmdPort());
+  TcpHost data(dev.dataPort()), cmd(dev.cmdPort());
   ASSERT_TRUE(data.ok() && cmd.ok());
   ASSERT_TRUE(dev.waitForHost(Channel::Data, 2s));
 
@@ -343,11 +294,10 @@ Bytes readTransfer(orv::usb::Handle& h) {
 
 TEST(SimUsb, AnswersIn64ByteZeroPaddedTransfers) {
   Simulator sim;
-  DeviceConfig cfg = ethConfig(std::string(100, 'x'));  // a reply of 2 transfers
-  cfg.link = Link::Usb;
-  cfg.model = "KestrelAio";
-  cfg.serial = "USB00042";
-  sim.addDevice(cfg);
+  sim.addDevice({.model = "KestrelAio",
+                 .link = Link::Usb,
+                 .serial = "USB00042",
+                 .driver_info = std::string(100, 'x')});  // a reply of 2 transfers
   auto cand = findUsb("USB00042");
   ASSERT_NE(cand, nullptr);
   auto h = cand->open();
@@ -377,10 +327,7 @@ TEST(SimUsb, AnswersIn64ByteZeroPaddedTransfers) {
 TEST(SimUsb, ClosedLinkRemovalAndStopMakeTransfersFail) {
   const size_t backends = orv::usb::extraBackends().size();
   Simulator sim;
-  DeviceConfig cfg;
-  cfg.link = Link::Usb;
-  cfg.serial = "USB00007";
-  auto& dev = sim.addDevice(cfg);
+  auto& dev = sim.addDevice({.link = Link::Usb, .serial = "USB00007"});
   auto h = findUsb("USB00007")->open();
   EXPECT_TRUE(dev.hostConnected());
   EXPECT_TRUE(dev.send(150, {1, 2}));
@@ -411,32 +358,24 @@ TEST(SimUsb, ClosedLinkRemovalAndStopMakeTransfersFail) {
 
 // --- lifetime ----------------------------------------------------------------
 
-size_t threadCount() {
-  size_t n = 0;
-  DIR* d = ::opendir("/proc/self/task");
-  if (!d) return 0;
-  while (dirent* e = ::readdir(d)) {
-    if (e->d_name[0] != '.') ++n;
-  }
-  ::closedir(d);
-  return n;
-}
-
 TEST(SimLifetime, StopJoinsEveryThreadAcrossManyCycles) {
-  RawUdp host;
+  const testutil::Fd host = testutil::boundSocket(SOCK_DGRAM);  // where the answers go
+  const Bytes ask = frame(orv::GET_DEVICE_INFO, {0});
   auto cycle = [&](int i) {
     Simulator sim;
     auto& eth = sim.addDevice(orv::sim::numberedConfig("Trellis", Link::Ethernet, 1));
     auto& wifi = sim.addDevice(orv::sim::numberedConfig("HeronAinImu", Link::Wifi, 2));
     auto& usb = sim.addDevice(orv::sim::numberedConfig("KestrelAio", Link::Usb, 3));
-    const int port = sim.startDiscovery("127.0.0.1", 0, host.port());
-    RawTcp c1(eth.cmdPort()), c2(wifi.dataPort()), c3(wifi.cmdPort());
+    const int port = sim.startDiscovery("127.0.0.1", 0, testutil::boundPort(host.get()));
+    TcpHost c1(eth.cmdPort()), c2(wifi.dataPort()), c3(wifi.cmdPort());
     ASSERT_TRUE(c1.ok() && c2.ok() && c3.ok());
     c3.send(frame(orv::START_AI_STREAMING, {0}));  // a stream left running
     c1.send(frame(orv::GET_DRIVER_INFO, {0}));
     ASSERT_EQ(c1.readPackets(1).size(), 1u);
     auto h = findUsb(usb.serial())->open();
-    host.sendTo(port, frame(orv::GET_DEVICE_INFO, {0}));
+    const sockaddr_in to = testutil::loopback(port);
+    ::sendto(host.get(), ask.data(), ask.size(), 0, reinterpret_cast<const sockaddr*>(&to),
+             sizeof to);
     if (i % 2) {
       sim.stop();  // explicitly, and once more by the destructor
     }
@@ -445,49 +384,39 @@ TEST(SimLifetime, StopJoinsEveryThreadAcrossManyCycles) {
   // (a sanitizer's background thread, for one).
   cycle(0);
   std::this_thread::sleep_for(100ms);
-  const size_t before = threadCount();
+  const size_t before = testutil::threadCount();
   ASSERT_GT(before, 0u);
   for (int i = 1; i <= 50; ++i) cycle(i);
-  EXPECT_EQ(threadCount(), before);
-}
-
-size_t fdCount() {
-  size_t n = 0;
-  DIR* d = ::opendir("/proc/self/fd");
-  while (dirent* e = ::readdir(d)) n += e->d_name[0] != '.';
-  ::closedir(d);
-  return n - 1;  // the directory stream's own descriptor
+  EXPECT_EQ(testutil::threadCount(), before);
 }
 
 // References to stopped or removed devices live on; their listeners and
 // descriptors do not.
 TEST(SimLifetime, StopAndRemoveCloseEveryListenerAtOnce) {
   Simulator sim;
-  const size_t fds = fdCount();
+  const size_t fds = testutil::fdCount();
   auto& eth = sim.addDevice(orv::sim::numberedConfig("Trellis", Link::Ethernet, 1));
   auto& wifi = sim.addDevice(orv::sim::numberedConfig("HeronAin", Link::Wifi, 2));
   auto& usb = sim.addDevice(orv::sim::numberedConfig("KestrelAio", Link::Usb, 3));
   sim.startDiscovery("127.0.0.1", 0, 0);
-  RawTcp host(eth.cmdPort());
+  TcpHost host(eth.cmdPort());
   ASSERT_TRUE(host.ok());
   ASSERT_TRUE(eth.waitForHost(Channel::Cmd, 2s));
   const auto kept = sim.findDevice(eth.serial());
   sim.removeDevice(eth);
   EXPECT_TRUE(host.seesEof());
-  EXPECT_FALSE(RawTcp(kept->cmdPort()).ok());
-  EXPECT_TRUE(RawTcp(wifi.cmdPort()).ok());  // the others still serve
+  EXPECT_FALSE(TcpHost(kept->cmdPort()).ok());
+  EXPECT_TRUE(TcpHost(wifi.cmdPort()).ok());  // the others still serve
   sim.stop();
-  for (int port : {wifi.cmdPort(), wifi.dataPort()}) EXPECT_FALSE(RawTcp(port).ok()) << port;
+  for (int port : {wifi.cmdPort(), wifi.dataPort()}) EXPECT_FALSE(TcpHost(port).ok()) << port;
   EXPECT_EQ(findUsb(usb.serial()), nullptr);
-  EXPECT_EQ(fdCount(), fds + 1);  // the host's own socket
+  EXPECT_EQ(testutil::fdCount(), fds + 1);  // the host's own socket
 }
 
 TEST(SimLifetime, StopWakesAWriterBlockedOnAHostThatDoesNotRead) {
   Simulator sim;
-  DeviceConfig cfg;
-  cfg.link = Link::Wifi;
-  auto& dev = sim.addDevice(cfg);
-  RawTcp data(dev.dataPort());
+  auto& dev = sim.addDevice({.link = Link::Wifi});
+  TcpHost data(dev.dataPort());
   ASSERT_TRUE(data.ok());
   ASSERT_TRUE(dev.waitForHost(Channel::Data, 2s));
   // Far more than the socket buffers hold; nobody reads.

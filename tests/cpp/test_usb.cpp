@@ -19,6 +19,7 @@
 #include "link/transport.hpp"
 #include "link/usb_backend.hpp"
 #include "link/usb_libusb.hpp"
+#include "test_util.hpp"
 
 namespace orv {
 namespace {
@@ -160,12 +161,7 @@ class UsbClientTest : public ::testing::Test {
 };
 
 int usbErrorCode(const std::string& serial) {
-  try {
-    USBClient client(serial);
-  } catch (const Error& e) {
-    return e.code();
-  }
-  return 0;
+  return testutil::errorCode([&] { USBClient client(serial); });
 }
 
 TEST_F(UsbClientTest, ListsAndOpensTheFamilyInBackendOrder) {
@@ -206,32 +202,24 @@ TEST_F(UsbClientTest, OpeningDetachesAnActiveKernelDriver) {
 #endif
 }
 
-struct PaddingCase {
-  size_t length;
-  size_t written;
-};
-
-class UsbPadding : public UsbClientTest, public ::testing::WithParamInterface<PaddingCase> {};
-
-TEST_P(UsbPadding, WritesOneTransferPaddedToSixtyFour) {
+TEST_F(UsbClientTest, WritesOneTransferPaddedToSixtyFour) {
   auto dev = backend_->add("SN-A", "Trellis");
   USBClient client("default");
-  Bytes packet(GetParam().length);
-  for (size_t i = 0; i < packet.size(); ++i) packet[i] = static_cast<uint8_t>(0xA0 + i);
-  client.sendPacket(packet);
-  ASSERT_EQ(dev->writes.size(), 1u);
-  const Transfer& t = dev->writes[0];
-  EXPECT_EQ(t.endpoint, USB_EP_OUT);
-  ASSERT_EQ(t.bytes.size(), GetParam().written);
-  EXPECT_TRUE(std::equal(packet.begin(), packet.end(), t.bytes.begin()));
-  EXPECT_TRUE(std::all_of(t.bytes.begin() + packet.size(), t.bytes.end(),
-                          [](uint8_t b) { return b == 0; }));
+  for (auto [length, written] : std::vector<std::pair<size_t, size_t>>{
+           {7, 64}, {0, 64}, {63, 64}, {64, 64}, {70, 70}, {300, 300}}) {
+    SCOPED_TRACE("length " + std::to_string(length));
+    Bytes packet(length);
+    for (size_t i = 0; i < packet.size(); ++i) packet[i] = static_cast<uint8_t>(0xA0 + i);
+    client.sendPacket(packet);
+    ASSERT_EQ(dev->writes.size(), 1u);
+    const Transfer t = std::exchange(dev->writes, {})[0];
+    EXPECT_EQ(t.endpoint, USB_EP_OUT);
+    ASSERT_EQ(t.bytes.size(), written);
+    EXPECT_TRUE(std::equal(packet.begin(), packet.end(), t.bytes.begin()));
+    EXPECT_TRUE(std::all_of(t.bytes.begin() + packet.size(), t.bytes.end(),
+                            [](uint8_t b) { return b == 0; }));
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(Lengths, UsbPadding,
-                         ::testing::Values(PaddingCase{7, 64}, PaddingCase{0, 64},
-                                           PaddingCase{63, 64}, PaddingCase{64, 64},
-                                           PaddingCase{70, 70}, PaddingCase{300, 300}));
 
 TEST_F(UsbClientTest, ReadsOneTransferWithAOneMillisecondTimeoutAndSplitsIt) {
   auto dev = backend_->add("SN-A", "Trellis");
@@ -265,13 +253,12 @@ std::string systemLibusb() {
   return path;
 }
 
-enum class Place { Nothing, ModuleDir, ModuleDirSo0, ExtLib, NotALibrary };
-
 struct SearchCase {
   const char* name;
-  Place place;
-  std::string expected;  // relative to the module folder, or a bare name
+  std::vector<std::string> links;  // to the real library, under the temporary folder
+  std::string expected;            // relative to the module folder, or a bare name
   int warnings;
+  bool junk = false;  // a file that is no library in the module folder
 };
 
 class LibrarySearch : public ::testing::TestWithParam<SearchCase> {
@@ -296,23 +283,8 @@ class LibrarySearch : public ::testing::TestWithParam<SearchCase> {
 };
 
 TEST_P(LibrarySearch, FollowsTheTwoStepOrder) {
-  switch (GetParam().place) {
-    case Place::Nothing:
-      break;
-    case Place::ModuleDir:
-      fs::create_symlink(real_, module_ + "/libusb-1.0.so");
-      fs::create_symlink(real_, root_ + "/ext_lib/libusb-1.0.so");
-      break;
-    case Place::ModuleDirSo0:
-      fs::create_symlink(real_, module_ + "/libusb-1.0.so.0");
-      break;
-    case Place::ExtLib:
-      fs::create_symlink(real_, root_ + "/ext_lib/libusb-1.0.so");
-      break;
-    case Place::NotALibrary:
-      std::ofstream(module_ + "/libusb-1.0.so") << "not a shared object";
-      break;
-  }
+  for (const std::string& link : GetParam().links) fs::create_symlink(real_, root_ + link);
+  if (GetParam().junk) std::ofstream(module_ + "/libusb-1.0.so") << "not a shared object";
   const std::string& expected = GetParam().expected;
   const std::string want = expected.find('/') == 0 ? module_ + expected : expected;
   // Each search decides afresh and warns afresh.
@@ -328,11 +300,13 @@ TEST_P(LibrarySearch, FollowsTheTwoStepOrder) {
 
 INSTANTIATE_TEST_SUITE_P(
     Layouts, LibrarySearch,
-    ::testing::Values(SearchCase{"ModuleDir", Place::ModuleDir, "/libusb-1.0.so", 0},
-                      SearchCase{"ModuleDirSo0", Place::ModuleDirSo0, "/libusb-1.0.so.0", 0},
-                      SearchCase{"ExtLib", Place::ExtLib, "/../ext_lib/libusb-1.0.so", 0},
-                      SearchCase{"Nowhere", Place::Nothing, "libusb-1.0.so.0", 1},
-                      SearchCase{"NotALibrary", Place::NotALibrary, "libusb-1.0.so.0", 1}),
+    ::testing::Values(
+        SearchCase{
+            "ModuleDir", {"/pkg/libusb-1.0.so", "/ext_lib/libusb-1.0.so"}, "/libusb-1.0.so", 0},
+        SearchCase{"ModuleDirSo0", {"/pkg/libusb-1.0.so.0"}, "/libusb-1.0.so.0", 0},
+        SearchCase{"ExtLib", {"/ext_lib/libusb-1.0.so"}, "/../ext_lib/libusb-1.0.so", 0},
+        SearchCase{"Nowhere", {}, "libusb-1.0.so.0", 1},
+        SearchCase{"NotALibrary", {}, "libusb-1.0.so.0", 1, true}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(UsbClientTest, EveryOpenAndListingRunsTheSearchOnce) {

@@ -178,15 +178,6 @@ def test_pin_modes_reply_outside_the_vocabulary_or_short(trellis, reply):
         dev.Sys_getPinModeInPort(0)
 
 
-@pytest.mark.parametrize("port, error", [(1.0, pyorv.InputTypeNotCorrectError),
-                                         ("1", pyorv.InputTypeNotCorrectError),
-                                         (300, ValueError)])
-def test_pin_modes_argument_errors_send_nothing(trellis, port, error):
-    dev, s = trellis
-    refuses(s, error, lambda: dev.Sys_getPinModeInPort(port),
-            lambda: run(dev.Sys_getPinModeInPort_async(port)))
-
-
 # ---- Trellis slot modes ------------------------------------------------------------------
 
 @pytest.mark.parametrize("setter, mode, name", [
@@ -201,25 +192,6 @@ def test_slot_mode_setters_send_twice_the_port_and_their_mode(trellis, setter, m
     assert dev.Sys_getMode(slot) == [name]
     port = slot - 1
     assert wire(s) == [(SET_SLOT_MODE, bytes([2 * port, mode])), (GET_SLOT_MODE, bytes([port]))]
-
-
-@pytest.mark.parametrize("call", [
-    lambda d: d.Sys_getMode(3), lambda d: d.Sys_setDOMode(3), lambda d: d.Sys_setIdleMode(0),
-    lambda d: d.Sys_setSwitchMode(5), lambda d: d._Sys_setSlotMode(3, 1),
-    lambda d: d._checkTrellisSlot(3), lambda d: run(d.Sys_getMode_async(3)),
-    lambda d: run(d.Sys_setAIOMode_async(3)),
-])
-def test_slot_3_and_others_refused_with_nothing_sent(trellis, call):
-    dev, s = trellis
-    refuses(s, pyorv.TrellisPortNotAvaliableError, lambda: call(dev))
-
-
-@pytest.mark.parametrize("slot", [2.0, "2", None])
-def test_slot_of_the_wrong_type_refused_with_nothing_sent(trellis, slot):
-    dev, s = trellis
-    refuses(s, pyorv.InputTypeNotCorrectError, lambda: dev.Sys_getMode(slot),
-            lambda: dev.Sys_setDIMode(slot))
-    dev._checkTrellisSlot(True)  # a bool is an int, and True is slot 1
 
 
 def test_slot_mode_status_is_returned_as_the_firmware_sent_it(trellis, heron):
@@ -275,17 +247,6 @@ def test_eeprom_pages_bytes_and_device(trellis):
     assert dev._setEEPROMPage(5, []) == pyorv.errFirmwareParser
 
 
-@pytest.mark.parametrize("call, error", [
-    (lambda d: d._setEEPROMPage(1, [256]), ValueError),
-    (lambda d: d._setEEPROMPage(1, 5), TypeError),
-    (lambda d: d._setEEPROMByte(1, 2, -1), ValueError),
-    (lambda d: d._getEEPROMPage(1.0), TypeError),
-])
-def test_eeprom_argument_errors_send_nothing(trellis, call, error):
-    dev, s = trellis
-    refuses(s, error, lambda: call(dev))
-
-
 def test_reset_factory_erases_settings_and_threads_are_listed(trellis):
     dev, s = trellis
     assert dev._setEEPROMByte(0, 0, 0x42) == 0
@@ -326,6 +287,32 @@ def test_awaitable_twins_take_no_timeout_the_blocking_ones_do(trellis):
     with pytest.raises(pyorv.ReceivePacketTimeoutError):
         dev.Sys_getRTC(timeout=0.3)
     assert len(s.packets()) == 3  # three attempts of a third of the timeout
+
+
+# ---- argument errors of the pin, slot and EEPROM services ---------------------------------
+
+@pytest.mark.parametrize("call, error", [
+    (lambda d: d.Sys_getPinModeInPort(1.0), pyorv.InputTypeNotCorrectError),
+    (lambda d: run(d.Sys_getPinModeInPort_async("1")), pyorv.InputTypeNotCorrectError),
+    (lambda d: d.Sys_getPinModeInPort(300), ValueError),
+    # Trellis slot 3 and the slots beyond 1 to 4
+    *[(call, pyorv.TrellisPortNotAvaliableError) for call in (
+        lambda d: d.Sys_getMode(3), lambda d: d.Sys_setDOMode(3), lambda d: d.Sys_setIdleMode(0),
+        lambda d: d.Sys_setSwitchMode(5), lambda d: d._Sys_setSlotMode(3, 1),
+        lambda d: d._checkTrellisSlot(3), lambda d: run(d.Sys_getMode_async(3)),
+        lambda d: run(d.Sys_setAIOMode_async(3)))],
+    (lambda d: d.Sys_getMode(2.0), pyorv.InputTypeNotCorrectError),
+    (lambda d: d.Sys_setDIMode("2"), pyorv.InputTypeNotCorrectError),
+    (lambda d: d.Sys_getMode(None), pyorv.InputTypeNotCorrectError),
+    (lambda d: d._setEEPROMPage(1, [256]), ValueError),
+    (lambda d: d._setEEPROMPage(1, 5), TypeError),
+    (lambda d: d._setEEPROMByte(1, 2, -1), ValueError),
+    (lambda d: d._getEEPROMPage(1.0), TypeError),
+])
+def test_argument_errors_send_nothing(trellis, call, error):
+    dev, s = trellis
+    refuses(s, error, lambda: call(dev))
+    dev._checkTrellisSlot(True)  # a bool is an int, and True is slot 1
 
 
 # ---- board sensors of the Wi-Fi analog models --------------------------------------------
