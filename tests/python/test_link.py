@@ -132,9 +132,10 @@ INTERRUPTED = textwrap.dedent("""
         "broadcast window": lambda: (finder.connect(verbose=False),
                                      finder._broadcastPacket(pyorv.GET_DEVICE_INFO, [0])),
     }
-    print("ready", flush=True)
+    call = calls[sys.argv[1]]
     try:
-        calls[sys.argv[1]]()
+        print("ready", flush=True)  # a SIGINT from here on is caught below
+        call()
     except KeyboardInterrupt:
         print("interrupted", flush=True)
     d.faults.never_answer = set()
