@@ -32,27 +32,7 @@ double secondsSince(Clock::time_point t) {
   return std::chrono::duration<double>(Clock::now() - t).count();
 }
 
-class Exchange : public ::testing::Test {
- protected:
-  void SetUp() override {
-    sim_dev_ = &sim_.addDevice({.model = "Trellis"});
-    dev_ = std::make_unique<ETHDevice>(false);
-    dev_->connect("127.0.0.1", sim_dev_->cmdPort(), false);
-  }
-  void TearDown() override {
-    dev_->disconnect(false);
-    dev_->close(false);
-    sim_.stop();
-  }
-  size_t sent(int cmd) {
-    size_t n = 0;
-    for (const auto& p : sim_dev_->packets()) n += p.cmd == cmd;
-    return n;
-  }
-  sim::Simulator sim_;
-  sim::SimDevice* sim_dev_ = nullptr;
-  std::unique_ptr<ETHDevice> dev_;
-};
+using Exchange = testutil::OnSimulatedDevice;
 
 TEST_F(Exchange, BlockingRetriesThreeTimesThenTimesOut) {
   sim_dev_->faults().neverAnswer(kSilentCmd);

@@ -77,17 +77,8 @@ struct Call {
   std::exception_ptr error;
 };
 
-class Fibers : public ::testing::Test {
+class Fibers : public testutil::OnSimulatedDevice {
  protected:
-  void SetUp() override {
-    sim_dev_ = &sim_.addDevice({.model = "Trellis"});
-    dev_ = std::make_unique<ETHDevice>(false);
-    dev_->connect("127.0.0.1", sim_dev_->cmdPort(), false);
-  }
-  void TearDown() override {
-    dev_->close(false);
-    sim_.stop();
-  }
   // Starts echoPacketWithRetryAsync on a fiber of the loop.
   std::unique_ptr<Call> start(int cmd, Bytes out, int retries, double timeout,
                               CancelToken* tok = nullptr) {
@@ -112,9 +103,6 @@ class Fibers : public ::testing::Test {
     EXPECT_THROW(std::rethrow_exception(c.error), E);
   }
 
-  sim::Simulator sim_;
-  sim::SimDevice* sim_dev_ = nullptr;
-  std::unique_ptr<ETHDevice> dev_;
   std::shared_ptr<TestLoop> loop_ = std::make_shared<TestLoop>();
 };
 

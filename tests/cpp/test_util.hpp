@@ -18,7 +18,10 @@
 #include <thread>
 #include <utility>
 
+#include "link/device.hpp"
 #include "link/error.hpp"
+#include "sim/device.hpp"
+#include "sim/simulator.hpp"
 
 namespace testutil {
 
@@ -138,6 +141,29 @@ class Listener {
  private:
   Fd fd_;
   int port_ = 0;
+};
+
+// A simulated Trellis on loopback with a connected ETHDevice.
+class OnSimulatedDevice : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    sim_dev_ = &sim_.addDevice({.model = "Trellis"});
+    dev_ = std::make_unique<orv::ETHDevice>(false);
+    dev_->connect("127.0.0.1", sim_dev_->cmdPort(), false);
+  }
+  void TearDown() override {
+    dev_->close(false);
+    sim_.stop();
+  }
+  // Packets of `cmd` the device received.
+  size_t sent(int cmd) {
+    size_t n = 0;
+    for (const auto& p : sim_dev_->packets()) n += p.cmd == cmd;
+    return n;
+  }
+  orv::sim::Simulator sim_;
+  orv::sim::SimDevice* sim_dev_ = nullptr;
+  std::unique_ptr<orv::ETHDevice> dev_;
 };
 
 }  // namespace testutil
