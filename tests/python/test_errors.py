@@ -31,9 +31,6 @@ def test_constants_and_own_message():
     assert pyorv.errPacketTimeout == -8004 and pyorv.warnAIOverflow == 520000
     e = pyorv.NetworkConnectionLostError("cable pulled")
     assert (e.code, e.msg, str(e)) == (-8003, "cable pulled", "Error -8003: cable pulled")
-    with pytest.raises(pyorv.Error) as info:
-        raise pyorv.InputDataNotInRangeError()
-    assert info.value.code == pyorv.errInputDataNotInRange
 
 
 # (The status map itself: test_pools.cpp.)

@@ -87,7 +87,7 @@ def test_rtc_year_byte_counts_from_2000_on_heron_and_1900_elsewhere(model, first
     assert wire(s) == [(GET_DATE_TIME, b"\x00")] * 2
 
 
-def test_simulated_clock_shows_the_current_year_on_both_models(trellis, heron):
+def test_simulated_clock_shows_the_current_year_and_runs_over_a_leap_day(trellis, heron):
     utc = datetime.datetime.now(datetime.timezone.utc)
     for dev, _ in (trellis, heron):
         text = dev.Sys_getRTC()
@@ -95,6 +95,9 @@ def test_simulated_clock_shows_the_current_year_on_both_models(trellis, heron):
         read = datetime.datetime.strptime(text, "%Y-%m-%d, %H:%M:%S").replace(
             tzinfo=datetime.timezone.utc)
         assert abs((read - utc).total_seconds()) < 60
+    dev, _ = trellis
+    assert dev.Sys_setRTC(2024, 2, 29, 23, 59, 59) == 0
+    assert wait_until(lambda: dev.Sys_getRTC(timeout=0.3) == "2024-03-01, 00:00:00", 4.0)
 
 
 # The driver writes year - 1900 on every model; the Heron clock reads the
@@ -108,12 +111,6 @@ def test_set_rtc_sends_year_from_1900_both_forms(model, year, read):
     assert run(dev.Sys_setRTC_async(year, 1, 2, 3, 4, 5)) == 0
     assert wire(s) == [(SET_DATE_TIME, bytes([124, 1, 2, 3, 4, 5]))] * 2
     assert dev.Sys_getRTC()[:-1] == f"{read}-01-02, 03:04:0"
-
-
-def test_simulated_clock_runs_over_a_leap_day(trellis):
-    dev, _ = trellis
-    assert dev.Sys_setRTC(2024, 2, 29, 23, 59, 59) == 0
-    assert wait_until(lambda: dev.Sys_getRTC(timeout=0.3) == "2024-03-01, 00:00:00", 4.0)
 
 
 RTC_ARGS = (2024, 1, 2, 3, 4, 5)
@@ -168,43 +165,33 @@ def test_pin_modes_decoding_with_an_odd_pin_count(trellis):
     assert dev.pin_mode_list == [6, 7]
     s.set_handler(GET_PIN_MODE_OF_SLOT, answer([1, 0, 0x80]))
     assert dev.Sys_getPinModeInPort(1) == ["Disabled", "PWM"]
-
-
-@pytest.mark.parametrize("reply", [[2, 0, 0xA1], [3, 0, 0x11], []])
-def test_pin_modes_reply_outside_the_vocabulary_or_short(trellis, reply):
-    dev, s = trellis
-    s.set_handler(GET_PIN_MODE_OF_SLOT, answer(reply))
-    with pytest.raises(pyorv.ReplyFormatError):
-        dev.Sys_getPinModeInPort(0)
+    for reply in ([2, 0, 0xA1], [3, 0, 0x11], []):  # outside the vocabulary, or short
+        s.set_handler(GET_PIN_MODE_OF_SLOT, answer(reply))
+        with pytest.raises(pyorv.ReplyFormatError):
+            dev.Sys_getPinModeInPort(0)
 
 
 # ---- Trellis slot modes ------------------------------------------------------------------
 
-@pytest.mark.parametrize("setter, mode, name", [
-    ("Sys_setIdleMode", 0, "Idle"), ("Sys_setDIMode", 1, "DI"), ("Sys_setDOMode", 2, "DO"),
-    ("Sys_setDIOMode", 3, "DIO"), ("Sys_setMotionMode", 4, "Motion"),
-    ("Sys_setAIOMode", 5, "AIO"), ("Sys_setSwitchMode", 6, "Switch"),
-])
+@pytest.mark.parametrize("mode, name", enumerate(
+    ["Idle", "DI", "DO", "DIO", "Motion", "AIO", "Switch"]))
 @pytest.mark.parametrize("slot", [1, 2, 4])
-def test_slot_mode_setters_send_twice_the_port_and_their_mode(trellis, setter, mode, name, slot):
+def test_slot_mode_setters_send_twice_the_port_and_their_mode(trellis, mode, name, slot):
     dev, s = trellis
-    assert getattr(dev, setter)(slot) == 0
+    assert getattr(dev, f"Sys_set{name}Mode")(slot) == 0
     assert dev.Sys_getMode(slot) == [name]
     port = slot - 1
     assert wire(s) == [(SET_SLOT_MODE, bytes([2 * port, mode])), (GET_SLOT_MODE, bytes([port]))]
 
 
-def test_slot_mode_status_is_returned_as_the_firmware_sent_it(trellis, heron):
+def test_slot_mode_status_as_the_firmware_sent_it_and_decoding(trellis, heron):
     dev, s = trellis
     s.set_handler(SET_SLOT_MODE, answer([10]))
     assert dev.Sys_setDIMode(1) == 10  # not turned into a negative code
     hdev, _ = heron
     assert hdev.Sys_setDOMode(2) == 11  # a model without slots: the firmware's index error
     assert hdev.Sys_getMode(2) == []
-
-
-def test_slot_modes_decoding_masks_the_high_half(trellis):
-    dev, s = trellis
+    # Decoding masks the high half.
     s.set_handler(GET_SLOT_MODE, answer([3, 0x11, 0x05, 0xF6, 0x99]))
     assert dev.Sys_getMode(4) == ["DI", "AIO", "Switch"]
     s.set_handler(GET_SLOT_MODE, answer([2, 0x01, 0x07]))
