@@ -42,17 +42,16 @@ def test_bad_channel_reports_the_other_error(plover, call, error):
     refuses(s, error, lambda: call(dev))
 
 
-@pytest.mark.parametrize("op, value, payload", [
-    ("PWM_setFrequency", 1000, bytes([0, 0x44, 0x7A, 0, 0])),
-    ("PWM_setDutyCycle", 50, bytes([0, 0x42, 0x48, 0, 0])),
-    ("PWM_setDutyCycle", 0.1, bytes([0]) + struct.pack(">f", 0.1)),
-    ("PWM_setDutyCycle", -5, bytes([0]) + struct.pack(">f", -5)),  # no range on the host
+@pytest.mark.parametrize("op, cmd, value, payload", [
+    ("PWM_setFrequency", SET_PWM_FREQUENCY, 1000, bytes([0, 0x44, 0x7A, 0, 0])),
+    ("PWM_setDutyCycle", SET_PWM_DUTY_CYCLE, 50, bytes([0, 0x42, 0x48, 0, 0])),
+    ("PWM_setDutyCycle", SET_PWM_DUTY_CYCLE, 0.1, bytes([0]) + struct.pack(">f", 0.1)),
+    ("PWM_setDutyCycle", SET_PWM_DUTY_CYCLE, -5, bytes([0]) + struct.pack(">f", -5)),  # no range
 ])
-def test_f32_values_on_the_wire(kestrel, op, value, payload):
+def test_f32_values_on_the_wire(kestrel, op, cmd, value, payload):
     dev, s = kestrel
     assert getattr(dev, op)(0, value) == 0
-    assert last(s) == ({"PWM_setFrequency": SET_PWM_FREQUENCY,
-                        "PWM_setDutyCycle": SET_PWM_DUTY_CYCLE}[op], payload)
+    assert last(s) == (cmd, payload)
 
 
 def test_packing_refusals_and_channel_true(kestrel):

@@ -65,19 +65,6 @@ def test_relays_driven_through_output_port_0_are_counted(relay):
                                        TOGGLE_AND_WRITE_DO, RELAY_READ, RELAY_READ]
 
 
-def test_relay_awaitable(relay):
-    dev, s = relay
-
-    async def run():
-        assert await dev.Relay_open_async() == 0
-        with pytest.raises(pyorv.RelayCounterIndexError):
-            await dev.Relay_read_async(7)
-        return await dev.Relay_read_async(3)
-
-    assert asyncio.run(run()) == [0]
-    assert wire(s) == [(RELAY_READ, bytes([0, 3]))]
-
-
 # ---- digital potentiometer ------------------------------------------------------------------
 
 @pytest.mark.parametrize("call, error", [
@@ -114,12 +101,17 @@ def test_dpot_write_read_and_status(res):
     assert dev.DPOT_writeAllChannel(0, [0.25, 0.5, 0.75, 1.0]) == -7001
 
 
-def test_dpot_awaitable(res):
-    dev, s = res
+def test_relay_and_dpot_awaitables(relay, res):
+    (rdev, rs), (dev, _) = relay, res
 
     async def run():
+        assert await rdev.Relay_open_async() == 0
+        with pytest.raises(pyorv.RelayCounterIndexError):
+            await rdev.Relay_read_async(7)
+        assert await rdev.Relay_read_async(3) == [0]
         assert await dev.DPOT_open_async(0) == 0
         assert await dev.DPOT_writeAllChannel_async(0, [0.5, 0.5, 0.5, 0.125]) == 0
         return await dev.DPOT_readByChannel_async(0, 3)
 
     assert asyncio.run(run()) == struct.unpack(">I", struct.pack(">f", 0.125))[0]
+    assert wire(rs) == [(RELAY_READ, bytes([0, 3]))]

@@ -23,7 +23,7 @@ RTC_FORMAT = re.compile(r"^\d{4}-\d{2}-\d{2}, \d{2}:\d{2}:\d{2}$")
 
 # ---- identity ----------------------------------------------------------------------------
 
-def test_driver_info_split_and_the_service_form_unsplit(trellis):
+def test_driver_info_split_the_service_form_unsplit_and_the_python_version(trellis):
     dev, s = trellis
     text = s.config.driver_info
     assert dev.Sys_getDriverInfo() == text.split("_")
@@ -31,6 +31,11 @@ def test_driver_info_split_and_the_service_form_unsplit(trellis):
     assert dev._getDriverInfo_dev(3) == text
     assert dev.driver_info == text  # the service form keeps the whole text
     assert wire(s) == [(pyorv.GET_DRIVER_INFO, b"\x00"), (pyorv.GET_DRIVER_INFO, b"\x03")]
+    # The Python version is answered without an exchange.
+    assert dev.Sys_getPythonVersion() == pyorv.__version__ == "3.0.19"
+    assert dev.Sys_getPythonVersion(timeout=0.001) == "3.0.19"  # the timeout has no effect
+    assert run(dev.Sys_getPythonVersion_async()) == "3.0.19"
+    assert len(s.packets()) == 2
 
 
 @pytest.mark.parametrize("call, cmd", [
@@ -45,14 +50,6 @@ def test_reply_text_that_is_no_utf8_is_a_reply_format_error(trellis, call, cmd):
     s.set_handler(cmd, answer(b"ok\xff\xfe"))
     with pytest.raises(pyorv.ReplyFormatError, match=f"command {cmd} .*0xff"):
         call(dev)
-
-
-def test_python_version_is_answered_without_an_exchange(trellis):
-    dev, s = trellis
-    assert dev.Sys_getPythonVersion() == pyorv.__version__ == "3.0.19"
-    assert dev.Sys_getPythonVersion(timeout=0.001) == "3.0.19"  # the timeout has no effect
-    assert run(dev.Sys_getPythonVersion_async()) == "3.0.19"
-    assert s.packets() == []
 
 
 def test_serial_number_set_and_read_back(trellis):
@@ -129,15 +126,14 @@ def test_set_rtc_argument_errors_send_nothing(trellis, args, error):
     refuses(s, error, lambda: dev.Sys_setRTC(*args), lambda: run(dev.Sys_setRTC_async(*args)))
 
 
-@pytest.mark.parametrize("model, args", [
-    ("Trellis", (2023, 2, 29, 0, 0, 0)),   # no such day
-    ("Trellis", (2024, 1, 2, 24, 0, 0)),
-    ("HeronAin", (2024, 13, 1, 0, 0, 0)),  # no such month
-], indirect=["model"])
-def test_set_rtc_refused_by_the_firmware_returns_the_rtc_code(model, args):
-    dev, s = model
-    assert dev.Sys_setRTC(*args) == pyorv.errFirmwareRTC
-    assert len(s.packets()) == 1
+def test_set_rtc_refused_by_the_firmware_returns_the_rtc_code(trellis, heron):
+    for (dev, _), args in ((trellis, (2023, 2, 29, 0, 0, 0)),  # no such day
+                           (trellis, (2024, 1, 2, 24, 0, 0)),
+                           (heron, (2024, 13, 1, 0, 0, 0))):   # no such month
+        assert dev.Sys_setRTC(*args) == pyorv.errFirmwareRTC
+    assert wire(trellis[1]) == [(SET_DATE_TIME, bytes([123, 2, 29, 0, 0, 0])),
+                                (SET_DATE_TIME, bytes([124, 1, 2, 24, 0, 0]))]
+    assert len(heron[1].packets()) == 1
 
 
 # ---- pin modes ---------------------------------------------------------------------------
@@ -304,17 +300,13 @@ def test_argument_errors_send_nothing(trellis, call, error):
 
 # ---- board sensors of the Wi-Fi analog models --------------------------------------------
 
-def test_acceleration_words_are_read_unsigned_and_the_twin_is_spelled_without_e(heron):
+def test_board_sensors_and_ai_buffer_reset(heron):
+    # Acceleration words are read unsigned; the twin is spelled without e.
     dev, s = heron
     assert dev.Wifi_readAcceleration() == [65516, 5, 16384]  # -20 seen as unsigned
     s.state_set("wifi.accel", [1, -1, 300])
     assert run(dev.Wifi_readAccleration_async()) == [1, 65535, 300]
     assert not hasattr(dev, "Wifi_readAcceleration_async")
-    assert wire(s) == [(READ_ACCELERATION, b"")] * 2
-
-
-def test_battery_thermometer_and_ai_buffer_reset(heron):
-    dev, s = heron
     assert dev.Wifi_readBattery() == 4012 == dev.battery
     assert dev.Wifi_readThermo() == 25.5 == dev.thermo
     s.state_set("wifi.thermo_raw", -640)
@@ -322,7 +314,8 @@ def test_battery_thermometer_and_ai_buffer_reset(heron):
     s.state_set("wifi.battery", 65535)
     assert dev.Wifi_readBattery() == 65535
     assert dev._Wifi_resetAIBuffer() == 0
-    assert wire(s) == [(GET_BATTERY, b""), (GET_THERMOMETER, b""), (GET_THERMOMETER, b""),
-                       (GET_BATTERY, b""), (AI_RESET_BUFFER, b"\x00")]
+    assert wire(s) == [(READ_ACCELERATION, b"")] * 2 + [
+        (GET_BATTERY, b""), (GET_THERMOMETER, b""), (GET_THERMOMETER, b""), (GET_BATTERY, b""),
+        (AI_RESET_BUFFER, b"\x00")]
     s.set_handler(AI_RESET_BUFFER, answer([52]))
     assert dev._Wifi_resetAIBuffer() == pyorv.errFirmwareAI
