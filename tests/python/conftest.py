@@ -121,10 +121,6 @@ def thread_count():
     return len(os.listdir("/proc/self/task"))
 
 
-def fd_count():
-    return len(os.listdir("/proc/self/fd"))
-
-
 def wait_until(pred, timeout=5.0):
     end = time.monotonic() + timeout
     while time.monotonic() < end:

@@ -120,33 +120,26 @@ def test_fixed_direction_models_open_and_close_nothing(pair, model):
 
 # ---- writing, toggling -----------------------------------------------------------------
 
-@pytest.mark.parametrize("pin, value, mask, state", [
-    (0b110, 0b010, 6, 2),            # a mask: value bits stand at the pin positions
-    ([0], [1, 0], 1, 1),             # a longer value is accepted
-    ([2, 0], [1, 0], 5, 4),
-    ([7, 1], [True, 5], 0x82, 0x82), # values are clipped to 0..1
-    (0xFF, 0x1FF, 0xFF, 0x1FF),      # the word goes out as it is
+@pytest.mark.parametrize("call, mask, state", [
+    (lambda d: d.DO_writePins(1, 0b110, 0b010), 6, 2),  # value bits stand at the pin positions
+    (lambda d: d.DO_writePins(1, [0], [1, 0]), 1, 1),  # a longer value is accepted
+    (lambda d: d.DO_writePins(1, [2, 0], [1, 0]), 5, 4),
+    (lambda d: d.DO_writePins(1, [7, 1], [True, 5]), 0x82, 0x82),  # values clipped to 0..1
+    (lambda d: d.DO_writePins(1, 0xFF, 0x1FF), 0xFF, 0x1FF),  # the word goes out as it is
+    (lambda d: d.DO_writePort(1, [1, 0, 1]), 0xFFFF, 5),  # pins above the list are written 0
+    (lambda d: d.DO_writePort(1, [1] * 8), 0xFFFF, 0xFF),
+    (lambda d: d.DO_writePort(1, 0x1234), 0xFFFF, 0x1234),
 ])
-def test_write_pins_masks_and_states(dio_x, pin, value, mask, state):
+def test_write_pins_and_port_masks_and_states(dio_x, call, mask, state):
     dev, s = dio_x
-    assert dev.DO_writePins(0, pin, value) == 0
-    assert last(s) == (SET_AND_WRITE_DO, bytes([0, mask >> 8, mask & 0xFF, state >> 8, state & 0xFF]))
-
-
-def test_write_port_takes_a_list_or_a_word_and_returns_0(dio_x):
-    dev, s = dio_x
-    assert dev.DO_writePort(1, [1, 0, 1]) == 0  # pins above the list are written 0
-    assert last(s) == (SET_AND_WRITE_DO, bytes([1, 0xFF, 0xFF, 0, 5]))
-    assert dev.DO_writePort(1, [1] * 8) == 0
-    assert last(s) == (SET_AND_WRITE_DO, bytes([1, 0xFF, 0xFF, 0, 0xFF]))
-    assert dev.DO_writePort(1, 0x1234) == 0
-    assert last(s) == (SET_AND_WRITE_DO, bytes([1, 0xFF, 0xFF, 0x12, 0x34]))
-    assert dev._getDIOState(1, 0xFFFF) == [0, 0, 1, 0, 1, 1, 0, 0]  # 0x34 on the 8 real pins
+    assert call(dev) == 0
+    assert last(s) == (SET_AND_WRITE_DO, bytes([1, mask >> 8, mask & 0xFF, state >> 8, state & 0xFF]))
 
 
 def test_toggles_return_states_and_unchecked_pins_still_go_out(dio_x):
     dev, s = dio_x
-    dev.DO_writePort(0, 0b0101)
+    assert dev.DO_writePort(0, 0x1205) == 0
+    assert dev._getDIOState(0, 0xFFFF) == [1, 0, 1, 0, 0, 0, 0, 0]  # 0x05 on the 8 real pins
     assert dev.DO_togglePort(0) == [0, 1, 0, 1, 1, 1, 1, 1]
     assert last(s) == (TOGGLE_AND_WRITE_DO, bytes([0, 0xFF, 0xFF]))
     assert dev.DO_togglePins(0, [1, 15]) == [0, 0, 0, 1, 1, 1, 1, 1]  # pin 15 is not in the map

@@ -82,9 +82,6 @@ def test_finder_is_a_broadcast_device_with_its_label(capsys, discovery_port):
     ]
     # The USB listing is blocking in both worlds: there is no awaitable name.
     assert not hasattr(f, "Bcst_enumerateUSBDevices_async")
-    for name in ("Bcst_enumerateNetworkDevices", "Bcst_checkMACAndReboot",
-                 "Bcst_checkMACAndSetIP"):
-        assert callable(getattr(f, name + "_async"))
 
 
 # ---- discovery ---------------------------------------------------------------------
@@ -187,28 +184,22 @@ def test_set_ip_by_mac_is_reported_by_the_next_discovery(simulator, finder):
 
 # ---- argument errors: raised before anything is sent --------------------------------
 
-MAC = "02:4F:52:56:00:0A"
-BAD_CALLS = [
-    ("reboot, MAC not text", "Bcst_checkMACAndReboot", (0x024F5256000A,),
-     pyorv.InputTypeNotCorrectError),
-    ("reboot, MAC part not hex", "Bcst_checkMACAndReboot", ("02:4F:52:56:00:ZZ",), ValueError),
-    ("set ip, IP not text", "Bcst_checkMACAndSetIP", (0x0A000001, MAC, "255.0.0.0"),
-     pyorv.InputTypeNotCorrectError),
-    ("set ip, mask not text", "Bcst_checkMACAndSetIP", ("10.0.0.1", MAC, None),
-     pyorv.InputTypeNotCorrectError),
-    ("set ip, MAC not text", "Bcst_checkMACAndSetIP", ("10.0.0.1", [2, 79, 82, 86, 0, 10],
-                                                       "255.0.0.0"),
-     pyorv.InputTypeNotCorrectError),
-    ("set ip, bad IP", "Bcst_checkMACAndSetIP", ("10.0.0.256", MAC, "255.0.0.0"), OSError),
-    ("set ip, bad mask", "Bcst_checkMACAndSetIP", ("10.0.0.1", MAC, "255.0.0.x"), OSError),
-    ("set ip, bad MAC", "Bcst_checkMACAndSetIP", ("10.0.0.1", "02-4F-52-56-00-0A", "255.0.0.0"),
-     ValueError),
+MAC, IP, MASK = "02:4F:52:56:00:0A", "10.0.0.1", "255.0.0.0"
+TYPE = pyorv.InputTypeNotCorrectError
+BAD_CALLS = [  # (name, args, error)
+    ("Bcst_checkMACAndReboot", (0x024F5256000A,), TYPE),
+    ("Bcst_checkMACAndReboot", ("02:4F:52:56:00:ZZ",), ValueError),
+    ("Bcst_checkMACAndSetIP", (0x0A000001, MAC, MASK), TYPE),
+    ("Bcst_checkMACAndSetIP", (IP, MAC, None), TYPE),
+    ("Bcst_checkMACAndSetIP", (IP, [2, 79, 82, 86, 0, 10], MASK), TYPE),
+    ("Bcst_checkMACAndSetIP", ("10.0.0.256", MAC, MASK), OSError),
+    ("Bcst_checkMACAndSetIP", (IP, MAC, "255.0.0.x"), OSError),
+    ("Bcst_checkMACAndSetIP", (IP, "02-4F-52-56-00-0A", MASK), ValueError),
 ]
 
 
 @pytest.mark.parametrize("awaitable", [False, True], ids=["blocking", "awaitable"])
-@pytest.mark.parametrize("name,args,error", [c[1:] for c in BAD_CALLS],
-                         ids=[c[0] for c in BAD_CALLS])
+@pytest.mark.parametrize("name, args, error", BAD_CALLS)
 def test_argument_errors_send_nothing(simulator, finder, awaitable, name, args, error):
     dev = add(simulator, TRIO[0])
     with pytest.raises(error):

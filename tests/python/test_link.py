@@ -16,14 +16,14 @@ import pytest
 
 import pyorv
 import pyorv.sim as sim
-from conftest import sent, thread_count, wait_until
+from conftest import refuses, sent, thread_count, wait_until
 
 SILENT = 120  # a command the simulated firmware never answers here
 
 
 # ---- lifecycle and messages -------------------------------------------------------
 
-def test_messages_of_a_network_device(capsys, eth_sim):
+def test_messages_of_a_network_device_and_a_with_statement(capsys, eth_sim):
     dev = pyorv.ETHDevice()
     dev.connect(eth_sim.host, eth_sim.cmd_port)
     dev.connect(eth_sim.host, eth_sim.cmd_port)  # already connected: nothing
@@ -38,6 +38,10 @@ def test_messages_of_a_network_device(capsys, eth_sim):
         "Closed handle (ETHDevice)",
     ]
     assert dev.killed and dev._aliveThreads() == []
+    with pyorv.ETHDevice() as dev:  # a with statement closes
+        dev.connect(eth_sim.host, eth_sim.cmd_port, verbose=False)
+    assert dev.killed and dev._aliveThreads() == []
+    assert capsys.readouterr().out.splitlines()[-1] == "Closed handle (ETHDevice)"
 
 
 def test_connect_defaults_are_the_devices_own_ports():
@@ -61,8 +65,10 @@ def test_close_disconnects_with_its_own_message_and_never_connected_close(capsys
     assert fresh._aliveThreads() == []
 
 
-def test_reconnect_keeps_pools_and_failed_connect_can_be_retried(eth_sim):
+def test_unconnected_reconnect_keeps_pools_and_failed_connect_can_be_retried(eth_sim):
     dev = pyorv.ETHDevice(verbose=False)
+    with pytest.raises(pyorv.LinkNotOpenError):
+        dev._echoPacketWithRetry(240, [0], timeout=0.3)
     with pytest.raises(pyorv.NetworkConnectionError) as info:
         dev.connect("127.0.0.1", 1, verbose=False)  # nothing listens on port 1
     assert info.value.code == -8002 and not dev.connect_status_cmd
@@ -75,13 +81,8 @@ def test_reconnect_keeps_pools_and_failed_connect_can_be_retried(eth_sim):
     assert wait_until(lambda: 240 in dev.data_pool_echo)  # the fresh one waits behind
     dev.disconnect(verbose=False)
     dev.close(verbose=False)
-
-
-def test_with_statement_closes(eth_sim, capsys):
-    with pyorv.ETHDevice() as dev:
-        dev.connect(eth_sim.host, eth_sim.cmd_port, verbose=False)
-    assert dev.killed and dev._aliveThreads() == []
-    assert capsys.readouterr().out.splitlines()[-1] == "Closed handle (ETHDevice)"
+    with pytest.raises(pyorv.DeviceClosedError):
+        dev._sendPacketWithoutReply(240, [0])
 
 
 def test_garbage_collected_open_device_is_closed(eth_sim):
@@ -168,29 +169,15 @@ def test_ctrl_c_interrupts_a_blocking_call(call):
 # ---- the blocking exchange ---------------------------------------------------------
 
 def test_driver_info_round_trip_with_wire_bytes(eth, eth_sim):
+    # Arguments are checked before sending.
+    refuses(eth_sim, ValueError, lambda: eth._echoPacketWithRetry(240, [0, 256], timeout=1))
+    refuses(eth_sim, TypeError, lambda: eth._echoPacketWithRetry(240, {"a": 1}, timeout=1))
     reply = eth._echoPacketWithRetry(pyorv.GET_DRIVER_INFO, [0], timeout=3)
     assert reply == eth_sim.config.driver_info.encode()
     (p,) = eth_sim.packets()
     assert (p.cmd, p.data, p.link) == (240, b"\x00", "cmd")
     assert eth._preparePacket(pyorv.GET_DRIVER_INFO, [0]) == [2, 0, 2, 0xF0, 0, 13, 10]
     assert eth._preparePacket(pyorv.AHRS_START) == [2, 0, 2, 0x24, 0x01, 13, 10]
-
-
-def test_arguments_checked_before_sending(eth, eth_sim):
-    with pytest.raises(ValueError):
-        eth._echoPacketWithRetry(240, [0, 256], timeout=1)
-    with pytest.raises(TypeError):
-        eth._echoPacketWithRetry(240, {"a": 1}, timeout=1)
-    assert eth_sim.packets() == []
-
-
-def test_unconnected_device_raises_link_not_open():
-    dev = pyorv.ETHDevice(verbose=False)
-    with pytest.raises(pyorv.LinkNotOpenError):
-        dev._echoPacketWithRetry(240, [0], timeout=0.3)
-    dev.close(verbose=False)
-    with pytest.raises(pyorv.DeviceClosedError):
-        dev._sendPacketWithoutReply(240, [0])
 
 
 # ---- the awaitable exchange -------------------------------------------------------

@@ -27,52 +27,41 @@ def kestrel(pair):
     return pair("KestrelDio")
 
 
-@pytest.mark.parametrize("call", [
-    lambda d: d.PWM_open(2), lambda d: d.PWM_start(-1), lambda d: d.PWM_stop("0"),
-    lambda d: d.PWM_close(None), lambda d: d.PWM_setFrequency(2, 1000),
-    lambda d: d.PWM_setDutyCycle(1.5, 50),
+# The checks are crossed: a bad PWM channel is the counter error and the reverse.
+@pytest.mark.parametrize("call, error", [
+    *[(call, pyorv.CounterChannelNotAvaliableError) for call in (
+        lambda d: d.PWM_open(2), lambda d: d.PWM_start(-1), lambda d: d.PWM_stop("0"),
+        lambda d: d.PWM_close(None), lambda d: d.PWM_setFrequency(2, 1000),
+        lambda d: d.PWM_setDutyCycle(1.5, 50))],
+    *[(call, pyorv.PWMChannelNotAvaliableError) for call in (
+        lambda d: d.Counter_open(2), lambda d: d.Counter_start(-1), lambda d: d.Counter_read(3),
+        lambda d: d.Counter_stop("1"), lambda d: d.Counter_close(0.5))],
 ])
-def test_bad_pwm_channel_reports_the_counter_error(plover, call):
+def test_bad_channel_reports_the_other_error(plover, call, error):
     dev, s = plover
-    refuses(s, pyorv.CounterChannelNotAvaliableError, lambda: call(dev))
+    refuses(s, error, lambda: call(dev))
 
 
-@pytest.mark.parametrize("call", [
-    lambda d: d.Counter_open(2), lambda d: d.Counter_start(-1), lambda d: d.Counter_read(3),
-    lambda d: d.Counter_stop("1"), lambda d: d.Counter_close(0.5),
+@pytest.mark.parametrize("op, cmd, value, payload", [
+    ("PWM_setFrequency", SET_PWM_FREQUENCY, 1000, bytes([0, 0x44, 0x7A, 0, 0])),
+    ("PWM_setDutyCycle", SET_PWM_DUTY_CYCLE, 50, bytes([0, 0x42, 0x48, 0, 0])),
+    ("PWM_setDutyCycle", SET_PWM_DUTY_CYCLE, 0.1, bytes([0]) + struct.pack(">f", 0.1)),
+    ("PWM_setDutyCycle", SET_PWM_DUTY_CYCLE, -5, bytes([0]) + struct.pack(">f", -5)),  # no range
 ])
-def test_bad_counter_channel_reports_the_pwm_error(plover, call):
-    dev, s = plover
-    refuses(s, pyorv.PWMChannelNotAvaliableError, lambda: call(dev))
-
-
-@pytest.mark.parametrize("op, value, payload", [
-    ("PWM_setFrequency", 1000, bytes([0, 0x44, 0x7A, 0, 0])),
-    ("PWM_setDutyCycle", 50, bytes([0, 0x42, 0x48, 0, 0])),
-    ("PWM_setDutyCycle", 0.1, bytes([0]) + struct.pack(">f", 0.1)),
-    ("PWM_setDutyCycle", -5, bytes([0]) + struct.pack(">f", -5)),  # no range on the host
-])
-def test_f32_values_on_the_wire(kestrel, op, value, payload):
+def test_f32_values_on_the_wire(kestrel, op, cmd, value, payload):
     dev, s = kestrel
     assert getattr(dev, op)(0, value) == 0
-    assert last(s) == ({"PWM_setFrequency": SET_PWM_FREQUENCY,
-                        "PWM_setDutyCycle": SET_PWM_DUTY_CYCLE}[op], payload)
+    assert last(s) == (cmd, payload)
 
 
-def test_non_number_fails_in_packing_before_sending(kestrel):
+def test_packing_refusals_and_channel_true(kestrel):
     dev, s = kestrel
+    # A non-number fails in packing; 1.0 passes the channel check by value but
+    # does not become a payload byte.
     refuses(s, TypeError, lambda: dev.PWM_setFrequency(0, "1000"),
-            lambda: dev.PWM_setDutyCycle(1, [50]))
-
-
-def test_channel_true_and_float_one_pass_the_check(kestrel):
-    dev, s = kestrel
+            lambda: dev.PWM_setDutyCycle(1, [50]), lambda: dev.PWM_open(1.0))
     assert dev.PWM_open(True) == 0
     assert last(s) == (OPEN_PWM, bytes([1]))
-    # 1.0 passes the check by value; a float does not become a payload byte.
-    with pytest.raises(TypeError):
-        dev.PWM_open(1.0)
-    assert s.packet_count() == 1
 
 
 def test_status_replies_and_firmware_codes(kestrel):
@@ -86,23 +75,21 @@ def test_status_replies_and_firmware_codes(kestrel):
     assert all(bytes(p.data) == b"\x00" for p in s.packets()[:3])
 
 
+# Bytes 0 to 4 are not looked at; a reply of another length fails in the conversion.
 @pytest.mark.parametrize("reply, result", [
-    (bytes([0, 0, 0, 0, 0, 0x01, 0x02]), 258),
-    (bytes([9, 9, 9, 9, 9, 0xFF, 0xFF]), 65535),  # bytes 0 to 4 are not looked at
+    (bytes([0, 0, 0, 0, 0, 0x01, 0x02]), 258), (bytes([9, 9, 9, 9, 9, 0xFF, 0xFF]), 65535),
+    (bytes([0, 0, 0, 0, 0, 1]), ValueError), (bytes([0] * 8), ValueError),
+    (bytes([0, 11]), ValueError),
 ])
 def test_counter_read_decodes_from_byte_5(plover, reply, result):
     dev, s = plover
     s.set_handler(PULSE_READ, lambda ctx, req: ctx.reply(reply))
-    assert dev.Counter_read(1) == result
+    if result is ValueError:
+        with pytest.raises(ValueError):
+            dev.Counter_read(1)
+    else:
+        assert dev.Counter_read(1) == result
     assert last(s) == (PULSE_READ, bytes([1]))
-
-
-@pytest.mark.parametrize("reply", [bytes([0, 0, 0, 0, 0, 1]), bytes([0] * 8), bytes([0, 11])])
-def test_counter_read_of_another_length_fails_in_the_conversion(plover, reply):
-    dev, s = plover
-    s.set_handler(PULSE_READ, lambda ctx, req: ctx.reply(reply))
-    with pytest.raises(ValueError):
-        dev.Counter_read(0)
 
 
 def test_counter_counts_a_running_pwm_channel(plover):

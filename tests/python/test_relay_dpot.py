@@ -25,12 +25,6 @@ def res(pair):
 
 # ---- relays ------------------------------------------------------------------------------
 
-def test_open_and_close_send_nothing(relay):
-    dev, s = relay
-    assert dev.Relay_open() == 0 and dev.Relay_close() == 0
-    assert s.packet_count() == 0
-
-
 @pytest.mark.parametrize("counters", [[7], [1, 2, 3, 4, 5, 0xFFFFFFFF]])
 def test_read_decodes_as_many_counters_as_the_reply_holds(relay, counters):
     dev, s = relay
@@ -52,9 +46,11 @@ def test_index_on_the_wire(relay, index, sent):
     (1.0, pyorv.InputTypeNotCorrectError), ("0", pyorv.InputTypeNotCorrectError),
     ([0], pyorv.InputTypeNotCorrectError),
 ])
-def test_bad_index_sends_nothing(relay, index, error):
+def test_bad_index_open_and_close_send_nothing(relay, index, error):
     dev, s = relay
     refuses(s, error, lambda: dev.Relay_read(index))
+    assert dev.Relay_open() == 0 and dev.Relay_close() == 0
+    assert s.packet_count() == 0
 
 
 def test_relays_driven_through_output_port_0_are_counted(relay):
@@ -67,19 +63,6 @@ def test_relays_driven_through_output_port_0_are_counted(relay):
     assert dev.Relay_read(0) == [2]
     assert [c for c, _ in wire(s)] == [RELAY_READ, SET_AND_WRITE_DO, SET_AND_WRITE_DO,
                                        TOGGLE_AND_WRITE_DO, RELAY_READ, RELAY_READ]
-
-
-def test_relay_awaitable(relay):
-    dev, s = relay
-
-    async def run():
-        assert await dev.Relay_open_async() == 0
-        with pytest.raises(pyorv.RelayCounterIndexError):
-            await dev.Relay_read_async(7)
-        return await dev.Relay_read_async(3)
-
-    assert asyncio.run(run()) == [0]
-    assert wire(s) == [(RELAY_READ, bytes([0, 3]))]
 
 
 # ---- digital potentiometer ------------------------------------------------------------------
@@ -101,7 +84,7 @@ def test_dpot_checks_send_nothing(res, call, error):
     assert s.packet_count() == 0
 
 
-def test_dpot_write_packs_floats_and_read_returns_the_firmware_bits(res):
+def test_dpot_write_read_and_status(res):
     dev, s = res
     assert dev.DPOT_writeAllChannel(0, [1, 2, 3, 4]) == 0
     assert wire(s) == [(POT_WRITE_ALL_CS, bytes([0]) + struct.pack(">4f", 1, 2, 3, 4))]
@@ -114,20 +97,21 @@ def test_dpot_write_packs_floats_and_read_returns_the_firmware_bits(res):
     with pytest.raises(ValueError):
         dev.DPOT_readByChannel(0, 9)
     assert wire(s)[-1] == (POT_READ, bytes([0, 9]))
-
-
-def test_dpot_write_status_is_a_negative_code(res):
-    dev, s = res
     s.set_handler(POT_WRITE_ALL_CS, lambda ctx, req: ctx.reply(bytes([0, 11])))
     assert dev.DPOT_writeAllChannel(0, [0.25, 0.5, 0.75, 1.0]) == -7001
 
 
-def test_dpot_awaitable(res):
-    dev, s = res
+def test_relay_and_dpot_awaitables(relay, res):
+    (rdev, rs), (dev, _) = relay, res
 
     async def run():
+        assert await rdev.Relay_open_async() == 0
+        with pytest.raises(pyorv.RelayCounterIndexError):
+            await rdev.Relay_read_async(7)
+        assert await rdev.Relay_read_async(3) == [0]
         assert await dev.DPOT_open_async(0) == 0
         assert await dev.DPOT_writeAllChannel_async(0, [0.5, 0.5, 0.5, 0.125]) == 0
         return await dev.DPOT_readByChannel_async(0, 3)
 
     assert asyncio.run(run()) == struct.unpack(">I", struct.pack(">f", 0.125))[0]
+    assert wire(rs) == [(RELAY_READ, bytes([0, 3]))]

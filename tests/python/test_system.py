@@ -23,7 +23,7 @@ RTC_FORMAT = re.compile(r"^\d{4}-\d{2}-\d{2}, \d{2}:\d{2}:\d{2}$")
 
 # ---- identity ----------------------------------------------------------------------------
 
-def test_driver_info_split_and_the_service_form_unsplit(trellis):
+def test_driver_info_split_the_service_form_unsplit_and_the_python_version(trellis):
     dev, s = trellis
     text = s.config.driver_info
     assert dev.Sys_getDriverInfo() == text.split("_")
@@ -31,6 +31,11 @@ def test_driver_info_split_and_the_service_form_unsplit(trellis):
     assert dev._getDriverInfo_dev(3) == text
     assert dev.driver_info == text  # the service form keeps the whole text
     assert wire(s) == [(pyorv.GET_DRIVER_INFO, b"\x00"), (pyorv.GET_DRIVER_INFO, b"\x03")]
+    # The Python version is answered without an exchange.
+    assert dev.Sys_getPythonVersion() == pyorv.__version__ == "3.0.19"
+    assert dev.Sys_getPythonVersion(timeout=0.001) == "3.0.19"  # the timeout has no effect
+    assert run(dev.Sys_getPythonVersion_async()) == "3.0.19"
+    assert len(s.packets()) == 2
 
 
 @pytest.mark.parametrize("call, cmd", [
@@ -45,14 +50,6 @@ def test_reply_text_that_is_no_utf8_is_a_reply_format_error(trellis, call, cmd):
     s.set_handler(cmd, answer(b"ok\xff\xfe"))
     with pytest.raises(pyorv.ReplyFormatError, match=f"command {cmd} .*0xff"):
         call(dev)
-
-
-def test_python_version_is_answered_without_an_exchange(trellis):
-    dev, s = trellis
-    assert dev.Sys_getPythonVersion() == pyorv.__version__ == "3.0.19"
-    assert dev.Sys_getPythonVersion(timeout=0.001) == "3.0.19"  # the timeout has no effect
-    assert run(dev.Sys_getPythonVersion_async()) == "3.0.19"
-    assert s.packets() == []
 
 
 def test_serial_number_set_and_read_back(trellis):
@@ -87,7 +84,7 @@ def test_rtc_year_byte_counts_from_2000_on_heron_and_1900_elsewhere(model, first
     assert wire(s) == [(GET_DATE_TIME, b"\x00")] * 2
 
 
-def test_simulated_clock_shows_the_current_year_on_both_models(trellis, heron):
+def test_simulated_clock_shows_the_current_year_and_runs_over_a_leap_day(trellis, heron):
     utc = datetime.datetime.now(datetime.timezone.utc)
     for dev, _ in (trellis, heron):
         text = dev.Sys_getRTC()
@@ -95,6 +92,9 @@ def test_simulated_clock_shows_the_current_year_on_both_models(trellis, heron):
         read = datetime.datetime.strptime(text, "%Y-%m-%d, %H:%M:%S").replace(
             tzinfo=datetime.timezone.utc)
         assert abs((read - utc).total_seconds()) < 60
+    dev, _ = trellis
+    assert dev.Sys_setRTC(2024, 2, 29, 23, 59, 59) == 0
+    assert wait_until(lambda: dev.Sys_getRTC(timeout=0.3) == "2024-03-01, 00:00:00", 4.0)
 
 
 # The driver writes year - 1900 on every model; the Heron clock reads the
@@ -108,12 +108,6 @@ def test_set_rtc_sends_year_from_1900_both_forms(model, year, read):
     assert run(dev.Sys_setRTC_async(year, 1, 2, 3, 4, 5)) == 0
     assert wire(s) == [(SET_DATE_TIME, bytes([124, 1, 2, 3, 4, 5]))] * 2
     assert dev.Sys_getRTC()[:-1] == f"{read}-01-02, 03:04:0"
-
-
-def test_simulated_clock_runs_over_a_leap_day(trellis):
-    dev, _ = trellis
-    assert dev.Sys_setRTC(2024, 2, 29, 23, 59, 59) == 0
-    assert wait_until(lambda: dev.Sys_getRTC(timeout=0.3) == "2024-03-01, 00:00:00", 4.0)
 
 
 RTC_ARGS = (2024, 1, 2, 3, 4, 5)
@@ -132,15 +126,14 @@ def test_set_rtc_argument_errors_send_nothing(trellis, args, error):
     refuses(s, error, lambda: dev.Sys_setRTC(*args), lambda: run(dev.Sys_setRTC_async(*args)))
 
 
-@pytest.mark.parametrize("model, args", [
-    ("Trellis", (2023, 2, 29, 0, 0, 0)),   # no such day
-    ("Trellis", (2024, 1, 2, 24, 0, 0)),
-    ("HeronAin", (2024, 13, 1, 0, 0, 0)),  # no such month
-], indirect=["model"])
-def test_set_rtc_refused_by_the_firmware_returns_the_rtc_code(model, args):
-    dev, s = model
-    assert dev.Sys_setRTC(*args) == pyorv.errFirmwareRTC
-    assert len(s.packets()) == 1
+def test_set_rtc_refused_by_the_firmware_returns_the_rtc_code(trellis, heron):
+    for (dev, _), args in ((trellis, (2023, 2, 29, 0, 0, 0)),  # no such day
+                           (trellis, (2024, 1, 2, 24, 0, 0)),
+                           (heron, (2024, 13, 1, 0, 0, 0))):   # no such month
+        assert dev.Sys_setRTC(*args) == pyorv.errFirmwareRTC
+    assert wire(trellis[1]) == [(SET_DATE_TIME, bytes([123, 2, 29, 0, 0, 0])),
+                                (SET_DATE_TIME, bytes([124, 1, 2, 24, 0, 0]))]
+    assert len(heron[1].packets()) == 1
 
 
 # ---- pin modes ---------------------------------------------------------------------------
@@ -168,43 +161,33 @@ def test_pin_modes_decoding_with_an_odd_pin_count(trellis):
     assert dev.pin_mode_list == [6, 7]
     s.set_handler(GET_PIN_MODE_OF_SLOT, answer([1, 0, 0x80]))
     assert dev.Sys_getPinModeInPort(1) == ["Disabled", "PWM"]
-
-
-@pytest.mark.parametrize("reply", [[2, 0, 0xA1], [3, 0, 0x11], []])
-def test_pin_modes_reply_outside_the_vocabulary_or_short(trellis, reply):
-    dev, s = trellis
-    s.set_handler(GET_PIN_MODE_OF_SLOT, answer(reply))
-    with pytest.raises(pyorv.ReplyFormatError):
-        dev.Sys_getPinModeInPort(0)
+    for reply in ([2, 0, 0xA1], [3, 0, 0x11], []):  # outside the vocabulary, or short
+        s.set_handler(GET_PIN_MODE_OF_SLOT, answer(reply))
+        with pytest.raises(pyorv.ReplyFormatError):
+            dev.Sys_getPinModeInPort(0)
 
 
 # ---- Trellis slot modes ------------------------------------------------------------------
 
-@pytest.mark.parametrize("setter, mode, name", [
-    ("Sys_setIdleMode", 0, "Idle"), ("Sys_setDIMode", 1, "DI"), ("Sys_setDOMode", 2, "DO"),
-    ("Sys_setDIOMode", 3, "DIO"), ("Sys_setMotionMode", 4, "Motion"),
-    ("Sys_setAIOMode", 5, "AIO"), ("Sys_setSwitchMode", 6, "Switch"),
-])
+@pytest.mark.parametrize("mode, name", enumerate(
+    ["Idle", "DI", "DO", "DIO", "Motion", "AIO", "Switch"]))
 @pytest.mark.parametrize("slot", [1, 2, 4])
-def test_slot_mode_setters_send_twice_the_port_and_their_mode(trellis, setter, mode, name, slot):
+def test_slot_mode_setters_send_twice_the_port_and_their_mode(trellis, mode, name, slot):
     dev, s = trellis
-    assert getattr(dev, setter)(slot) == 0
+    assert getattr(dev, f"Sys_set{name}Mode")(slot) == 0
     assert dev.Sys_getMode(slot) == [name]
     port = slot - 1
     assert wire(s) == [(SET_SLOT_MODE, bytes([2 * port, mode])), (GET_SLOT_MODE, bytes([port]))]
 
 
-def test_slot_mode_status_is_returned_as_the_firmware_sent_it(trellis, heron):
+def test_slot_mode_status_as_the_firmware_sent_it_and_decoding(trellis, heron):
     dev, s = trellis
     s.set_handler(SET_SLOT_MODE, answer([10]))
     assert dev.Sys_setDIMode(1) == 10  # not turned into a negative code
     hdev, _ = heron
     assert hdev.Sys_setDOMode(2) == 11  # a model without slots: the firmware's index error
     assert hdev.Sys_getMode(2) == []
-
-
-def test_slot_modes_decoding_masks_the_high_half(trellis):
-    dev, s = trellis
+    # Decoding masks the high half.
     s.set_handler(GET_SLOT_MODE, answer([3, 0x11, 0x05, 0xF6, 0x99]))
     assert dev.Sys_getMode(4) == ["DI", "AIO", "Switch"]
     s.set_handler(GET_SLOT_MODE, answer([2, 0x01, 0x07]))
@@ -317,17 +300,13 @@ def test_argument_errors_send_nothing(trellis, call, error):
 
 # ---- board sensors of the Wi-Fi analog models --------------------------------------------
 
-def test_acceleration_words_are_read_unsigned_and_the_twin_is_spelled_without_e(heron):
+def test_board_sensors_and_ai_buffer_reset(heron):
+    # Acceleration words are read unsigned; the twin is spelled without e.
     dev, s = heron
     assert dev.Wifi_readAcceleration() == [65516, 5, 16384]  # -20 seen as unsigned
     s.state_set("wifi.accel", [1, -1, 300])
     assert run(dev.Wifi_readAccleration_async()) == [1, 65535, 300]
     assert not hasattr(dev, "Wifi_readAcceleration_async")
-    assert wire(s) == [(READ_ACCELERATION, b"")] * 2
-
-
-def test_battery_thermometer_and_ai_buffer_reset(heron):
-    dev, s = heron
     assert dev.Wifi_readBattery() == 4012 == dev.battery
     assert dev.Wifi_readThermo() == 25.5 == dev.thermo
     s.state_set("wifi.thermo_raw", -640)
@@ -335,7 +314,8 @@ def test_battery_thermometer_and_ai_buffer_reset(heron):
     s.state_set("wifi.battery", 65535)
     assert dev.Wifi_readBattery() == 65535
     assert dev._Wifi_resetAIBuffer() == 0
-    assert wire(s) == [(GET_BATTERY, b""), (GET_THERMOMETER, b""), (GET_THERMOMETER, b""),
-                       (GET_BATTERY, b""), (AI_RESET_BUFFER, b"\x00")]
+    assert wire(s) == [(READ_ACCELERATION, b"")] * 2 + [
+        (GET_BATTERY, b""), (GET_THERMOMETER, b""), (GET_THERMOMETER, b""), (GET_BATTERY, b""),
+        (AI_RESET_BUFFER, b"\x00")]
     s.set_handler(AI_RESET_BUFFER, answer([52]))
     assert dev._Wifi_resetAIBuffer() == pyorv.errFirmwareAI
