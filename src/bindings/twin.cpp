@@ -97,11 +97,11 @@ class LoopReactor : public Reactor {
   void arm(Clock::time_point when) {
     armed_ = when;
     const auto ns = std::chrono::duration_cast<std::chrono::nanoseconds>(when.time_since_epoch());
-    itimerspec spec{};
-    spec.it_value.tv_sec = static_cast<time_t>(ns.count() / 1000000000);
-    spec.it_value.tv_nsec = static_cast<long>(ns.count() % 1000000000);
-    if (spec.it_value.tv_sec == 0 && spec.it_value.tv_nsec == 0) spec.it_value.tv_nsec = 1;
-    timerfd_settime(tfd_, TFD_TIMER_ABSTIME, &spec, nullptr);
+    itimerspec setting{};
+    setting.it_value.tv_sec = static_cast<time_t>(ns.count() / 1000000000);
+    setting.it_value.tv_nsec = static_cast<long>(ns.count() % 1000000000);
+    if (setting.it_value.tv_sec == 0 && setting.it_value.tv_nsec == 0) setting.it_value.tv_nsec = 1;
+    timerfd_settime(tfd_, TFD_TIMER_ABSTIME, &setting, nullptr);
   }
   void closeFds() {
     if (efd_ >= 0) ::close(efd_);
