@@ -41,7 +41,9 @@ py::list flatList(const Bytes& b) {
   return out;
 }
 
-std::set<Bytes> noGil(std::function<std::set<Bytes>()> f) {
+// Runs a blocking part of the core without the GIL and returns its result.
+template <class F>
+auto noGil(F&& f) {
   py::gil_scoped_release r;
   return f();
 }
@@ -237,34 +239,21 @@ void bindLink(py::module_& m) {
       .def(
           "_echoPacket",
           [](Device& d, int cmd, const Value& data_out, double timeout) {
-            Bytes b = data_out.toBytes(), out;
-            {
-              py::gil_scoped_release r;
-              out = d.echoPacket(cmd, b, timeout);
-            }
-            return toPy(out);
+            Bytes b = data_out.toBytes();
+            return toPy(noGil([&] { return d.echoPacket(cmd, b, timeout); }));
           },
           py::arg("cmd"), py::arg("data_out"), py::arg("timeout"))
       .def(
           "_echoPacketWithRetry",
           [](Device& d, int cmd, const Value& data_out, double timeout) {
-            Bytes b = data_out.toBytes(), out;
-            {
-              py::gil_scoped_release r;
-              out = d.echoPacketWithRetry(cmd, b, timeout);
-            }
-            return toPy(out);
+            Bytes b = data_out.toBytes();
+            return toPy(noGil([&] { return d.echoPacketWithRetry(cmd, b, timeout); }));
           },
           py::arg("cmd"), py::arg("data_out"), py::arg("timeout") = PACKET_TIMEOUT)
       .def(
           "_getReplyFromPool",
           [](Device& d, int64_t cmd, double timeout) {
-            Bytes out;
-            {
-              py::gil_scoped_release r;
-              out = d.getReplyFromPool(cmd, timeout);
-            }
-            return toPy(out);
+            return toPy(noGil([&] { return d.getReplyFromPool(cmd, timeout); }));
           },
           py::arg("cmd"), py::arg("timeout"))
       .def(
@@ -277,12 +266,7 @@ void bindLink(py::module_& m) {
       .def(
           "_getStreamingFromPool",
           [](Device& d, StreamQueue& q, int64_t num_samples, double delay) {
-            Bytes out;
-            {
-              py::gil_scoped_release r;
-              out = d.getStreamingFromPool(q, num_samples, delay);
-            }
-            return flatList(out);
+            return flatList(noGil([&] { return d.getStreamingFromPool(q, num_samples, delay); }));
           },
           py::arg("queue_"), py::arg("num_samples"), py::arg("delay"))
       // The exchange, awaitable.
