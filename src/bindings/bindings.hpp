@@ -17,6 +17,8 @@ void bindConstants(py::module_& m);
 void bindLink(py::module_& m);
 void bindModels(py::module_& m);
 void installHooks(py::module_& m);
+// After everything is bound: methods take `self` without conversion.
+void loadSelfWithoutConversion(py::handle m);
 
 // A binding file registers what it binds with a static BindingRegistrar; the
 // extension runs the registered bindings after the link classes and before

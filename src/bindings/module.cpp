@@ -163,4 +163,5 @@ PYBIND11_MODULE(_pyorv, m) {
   bindModels(m);
   bindSim(m);
   installHooks(m);
+  loadSelfWithoutConversion(m);
 }

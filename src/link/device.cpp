@@ -5,6 +5,7 @@
 
 #include "link/error.hpp"
 #include "link/fiber.hpp"
+#include "link/interrupt.hpp"
 #include "link/report.hpp"
 #include "link/stream_route.hpp"
 
@@ -21,8 +22,11 @@ Clock::time_point fromNow(double s) { return deadlineAfter(Clock::now(), s); }
 // ---- Gate --------------------------------------------------------------------
 
 void Gate::close() {
-  std::lock_guard lk(m_);
-  open_ = false;
+  {
+    std::lock_guard lk(m_);
+    open_ = false;
+  }
+  if (on_change_) on_change_();
 }
 
 void Gate::open() {
@@ -32,6 +36,7 @@ void Gate::open() {
     open_ = true;
   }
   cv_.notify_all();
+  if (on_change_) on_change_();
 }
 
 void Gate::forceOpen() {
@@ -40,6 +45,7 @@ void Gate::forceOpen() {
     open_ = true;
   }
   cv_.notify_all();
+  if (on_change_) on_change_();
 }
 
 bool Gate::isOpen() const {
@@ -135,8 +141,21 @@ void Device::startThread(Link& link) {
   link.thread = std::thread([this, &link] { recvLoop(link); });
 }
 
+void Device::dispatch(Link& link, Client& client, const Bytes& raw) {
+  thread_local std::vector<RawPacket> packets;
+  packets.clear();
+  client.splitter().feed(raw, packets);
+  for (const auto& p : packets) {
+    try {
+      putToDataPool(p.cmd, p.data);
+    } catch (const std::exception& e) {
+      if (link.failures == Link::Failures::Print) report::genericError(e);
+    }
+  }
+}
+
 void Device::recvLoop(Link& link) {
-  std::vector<RawPacket> packets;
+  Bytes raw;
   while (!killed_.load()) {
     link.gate.pass(killed_);
     if (killed_.load()) break;
@@ -148,21 +167,30 @@ void Device::recvLoop(Link& link) {
         if (link.failures == Link::Failures::Print && !killed_.load())
           report::print("AttributeError: the USB link has no client");
         pause = true;
-      } else {
-        Bytes raw = client->recvPacket(link.read_size);
-        if (raw.empty()) {
-          pause = true;  // a closed peer answers every read at once
-        } else {
-          packets.clear();
-          client->splitter().feed(raw, packets);
-          for (const auto& p : packets) {
-            try {
-              putToDataPool(p.cmd, p.data);
-            } catch (const std::exception& e) {
-              if (link.failures == Link::Failures::Print) report::genericError(e);
-            }
-          }
+      } else if (auto* net = dynamic_cast<NetworkClient*>(client.get())) {
+        // A socket: read it while no caller does (link/reader_role.hpp).
+        const int fd = net->fd();
+        if (fd < 0) {
+          pause = true;
+        } else if (link.role.threadWait(fd, net->socketId())) {
+          struct Done {
+            ReaderRole& r;
+            ~Done() { r.threadDone(); }
+          } done{link.role};
+          const auto got = net->recvWithin(link.read_size, Clock::time_point::min(), -1, raw);
+          if (got == NetworkClient::Recv::Data)
+            dispatch(link, *net, raw);
+          else if (got == NetworkClient::Recv::Closed)
+            pause = true;  // a closed peer answers every read at once
+        } else if (!net->hasSocket()) {
+          pause = true;
         }
+      } else {
+        raw = client->recvPacket(link.read_size);
+        if (raw.empty())
+          pause = true;  // a closed peer answers every read at once
+        else
+          dispatch(link, *client, raw);
       }
     } catch (const usb::Timeout&) {
       // An idle USB link: the ordinary state, once per millisecond.
@@ -180,6 +208,7 @@ void Device::finishClose(std::initializer_list<Link*> links) {
   echo_.close();
   strm_.closeAll();
   for (Link* l : links) {
+    l->role.wakeLeader();
     // A socket left open without a connection (a bind or connect that failed
     // half way) may hold the thread in a read: shut it to wake the thread.
     if (auto c = std::dynamic_pointer_cast<NetworkClient>(l->client()); c && c->hasSocket()) {
@@ -205,7 +234,11 @@ std::vector<std::string> Device::aliveThreads() const {
   return out;
 }
 
-void Device::registerLink(Link& link) { links_.push_back(&link); }
+void Device::registerLink(Link& link) {
+  link.role.setOnFree([this] { echo_.wakeAll(); });
+  link.gate.onChange([&link] { link.role.wake(); });
+  links_.push_back(&link);
+}
 
 void Device::stopLinks(std::initializer_list<Link*> links) {
   killed_.store(true);
@@ -261,14 +294,33 @@ void Device::sendBefore(int cmd, std::span<const uint8_t> data_out, Clock::time_
 }
 
 namespace {
+thread_local ReaderRole* t_expecting = nullptr;
+
+// A blocking caller counts as waiting on its link's reader from before its
+// send: a reply that comes back before the caller starts to wait is left in
+// the socket for it, instead of waking the receive thread.
+class ExpectReply {
+ public:
+  explicit ExpectReply(Link* link) {
+    if (!link || t_expecting || Fiber::current()) return;
+    role_ = &link->role;
+    role_->enter();
+    t_expecting = role_;
+  }
+  ~ExpectReply() {
+    if (!role_) return;
+    t_expecting = nullptr;
+    role_->leave();
+  }
+  ExpectReply(const ExpectReply&) = delete;
+  ExpectReply& operator=(const ExpectReply&) = delete;
+
+ private:
+  ReaderRole* role_ = nullptr;
+};
+
 // A wait sleeps the calling thread, or on a fiber (an awaitable call) parks
 // the fiber and gives the loop back.
-EchoPool::WaitResult poolWait(EchoPool& pool, int64_t key, Clock::time_point deadline, Bytes& out,
-                              CancelToken* tok) {
-  if (Fiber::current()) return fiberWaitPop(pool, key, deadline, out, tok);
-  return pool.waitPop(key, deadline, out, tok);
-}
-
 EchoPool::WaitResult poolSleep(EchoPool& pool, Clock::time_point deadline, CancelToken* tok) {
   if (Fiber::current()) return fiberSleepUntil(pool, deadline, tok);
   return pool.sleepUntil(deadline, tok);
@@ -286,11 +338,95 @@ Bytes Device::getReplyFromPool(int64_t key, double timeout, CancelToken* tok) {
   return waitReply(key, Clock::now(), timeout, tok);
 }
 
+EchoPool::WaitResult Device::replyWait(int64_t key, Clock::time_point deadline, Bytes& out,
+                                       CancelToken* tok) {
+  if (Fiber::current()) return fiberWaitPop(echo_, key, deadline, out, tok);
+  Link* link = commandLink();
+  std::shared_ptr<Client> client = link ? link->client() : nullptr;
+  if (auto* net = dynamic_cast<NetworkClient*>(client.get()); net && net->hasSocket())
+    return leadOrFollow(*link, *net, key, deadline, out, tok);
+  return echo_.waitPop(key, deadline, out, tok);
+}
+
+EchoPool::WaitResult Device::leadOrFollow(Link& link, NetworkClient& client, int64_t key,
+                                          Clock::time_point deadline, Bytes& out,
+                                          CancelToken* tok) {
+  ReaderRole& role = link.role;
+  ExpectReply expecting(&link);
+  struct Leader {
+    ReaderRole& role;
+    bool leads = false;
+    ~Leader() {
+      if (leads) role.endLead();
+    }
+  } me{role};
+  auto wake = [&role, this] {
+    role.wakeLeader();
+    echo_.wakeAll();
+  };
+  if (tok) tok->setWaker(wake);
+  struct ClearWaker {
+    CancelToken* tok;
+    ~ClearWaker() {
+      if (tok) tok->setWaker(nullptr);
+    }
+  } clear_waker{tok};
+  interrupt::WaitScope signals(wake);
+  Bytes raw;
+  for (;;) {
+    if (auto reply = echo_.pop(key)) {
+      out = std::move(*reply);
+      return EchoPool::WaitResult::Taken;
+    }
+    if (signals.pending()) {
+      signals.runHandlers();  // throws what the host's handler raised
+      continue;
+    }
+    if (tok && tok->cancelled()) return EchoPool::WaitResult::Cancelled;
+    if (echo_.closed()) return EchoPool::WaitResult::Closed;
+    if (Clock::now() >= deadline) return EchoPool::WaitResult::TimedOut;
+    if (!me.leads) me.leads = role.tryLead();
+    if (!me.leads) {
+      // Somebody else reads: its dispatch wakes us, or it gives the role back.
+      auto r = echo_.waitPop(key, deadline, out, tok, &role.freeFlag());
+      if (r != EchoPool::WaitResult::Stopped) return r;
+      continue;
+    }
+    NetworkClient::Recv got;
+    try {
+      got = client.recvWithin(link.read_size, deadline, role.leaderWakeFd(), raw);
+    } catch (const std::exception&) {
+      got = NetworkClient::Recv::Closed;  // the socket went away under the read
+    }
+    switch (got) {
+      case NetworkClient::Recv::Data:
+        dispatch(link, client, raw);
+        break;
+      case NetworkClient::Recv::Closed: {
+        // The link is down: nothing more will come through it.  Give the
+        // role back and wait for the deadline, a close or a signal.
+        role.endLead();
+        me.leads = false;
+        auto r = echo_.waitPop(key, deadline, out, tok);
+        return r;
+      }
+      case NetworkClient::Recv::TimedOut:
+      case NetworkClient::Recv::Woken:
+        break;
+    }
+  }
+}
+
 Bytes Device::waitReply(int64_t key, Clock::time_point start, double timeout, CancelToken* tok) {
+  Bytes out;
+  const auto r = replyWait(key, deadlineAfter(start, timeout), out, tok);
+  return endWait(r, std::move(out), start, timeout, tok);
+}
+
+Bytes Device::endWait(EchoPool::WaitResult r, Bytes out, Clock::time_point start, double timeout,
+                      CancelToken* tok) {
   // A reply is taken until `timeout`; a missing one is reported one polling
   // period (a tenth of the timeout) later, as the polling loop always did.
-  Bytes out;
-  auto r = poolWait(echo_, key, deadlineAfter(start, timeout), out, tok);
   if (r == EchoPool::WaitResult::Taken) return out;
   if (r != EchoPool::WaitResult::TimedOut) waitFailed(r);
   r = poolSleep(echo_, deadlineAfter(start, timeout * 1.1), tok);
@@ -307,12 +443,18 @@ Bytes Device::echoPacket(int cmd, std::span<const uint8_t> data_out, double time
   // The attempt's time runs from before the send: a device that takes no
   // packet fails the attempt like one that sends no reply.
   const auto start = Clock::now();
-  try {
-    sendBefore(cmd, data_out, deadlineAfter(start, timeout));
-  } catch (const SendTimeout&) {
-    raise(ErrorId::ReceivePacketTimeoutError, "The device took no packet in time.");
+  Bytes out;
+  EchoPool::WaitResult r;
+  {
+    ExpectReply expecting(commandLink());
+    try {
+      sendBefore(cmd, data_out, deadlineAfter(start, timeout));
+    } catch (const SendTimeout&) {
+      raise(ErrorId::ReceivePacketTimeoutError, "The device took no packet in time.");
+    }
+    r = replyWait(key, deadlineAfter(start, timeout), out, tok);
   }
-  return waitReply(key, start, timeout, tok);
+  return endWait(r, std::move(out), start, timeout, tok);
 }
 
 Bytes Device::echoPacketWithRetry(int cmd, std::span<const uint8_t> data_out, double timeout,
@@ -346,7 +488,7 @@ std::optional<Bytes> Device::echoPacketAsync(int cmd, std::span<const uint8_t> d
     return std::nullopt;  // the attempt's time ran out before the packet went
   }
   Bytes out;
-  auto r = poolWait(echo_, key, deadline, out, tok);
+  auto r = replyWait(key, deadline, out, tok);
   if (r == EchoPool::WaitResult::Taken) return out;
   if (r == EchoPool::WaitResult::TimedOut) {
     throwIfClosed();
@@ -358,7 +500,7 @@ std::optional<Bytes> Device::echoPacketAsync(int cmd, std::span<const uint8_t> d
 Bytes Device::getReplyFromPoolAsync(int64_t key, CancelToken* tok) {
   throwIfClosed();
   Bytes out;
-  auto r = poolWait(echo_, key, Clock::time_point::max(), out, tok);
+  auto r = replyWait(key, Clock::time_point::max(), out, tok);
   if (r == EchoPool::WaitResult::Taken) return out;
   waitFailed(r);
 }
@@ -375,7 +517,7 @@ Bytes Device::echoPacketWithRetryAsync(int cmd, std::span<const uint8_t> data_ou
   if (value) return std::move(*value);
   const double remaining = timeout - RETRY_TIMEOUT * count;
   Bytes out;
-  auto r = poolWait(echo_, echoKey(cmd, data_out), fromNow(remaining), out, tok);
+  auto r = replyWait(echoKey(cmd, data_out), fromNow(remaining), out, tok);
   if (r == EchoPool::WaitResult::Taken) return out;
   if (r == EchoPool::WaitResult::TimedOut) {
     throwIfClosed();

@@ -13,6 +13,7 @@
 
 #include <atomic>
 #include <condition_variable>
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -26,6 +27,7 @@
 #include "link/constants.hpp"
 #include "link/framing.hpp"
 #include "link/pools.hpp"
+#include "link/reader_role.hpp"
 #include "link/transport.hpp"
 
 namespace orv {
@@ -40,6 +42,8 @@ class Gate {
   void open();   // release: throws GateAlreadyOpen if already open (the host sees RuntimeError)
   void forceOpen();
   bool isOpen() const;
+  // Called after every open and close (the link's reader looks again).
+  void onChange(std::function<void()> fn) { on_change_ = std::move(fn); }
   // Waits while the gate is closed; returns at once once `stop` is set.
   void pass(const std::atomic<bool>& stop);
 
@@ -47,6 +51,7 @@ class Gate {
   mutable std::mutex m_;
   std::condition_variable cv_;
   bool open_ = false;
+  std::function<void()> on_change_;
 };
 
 class GateAlreadyOpen : public std::runtime_error {
@@ -90,6 +95,7 @@ struct Link {
 
   std::atomic<bool> status{false};  // connect_status_*
   Gate gate;
+  ReaderRole role;  // who reads a socket link (link/reader_role.hpp)
   std::thread thread;
   std::atomic<bool> alive{false};
   SendLock send_lock;  // one packet on the wire at a time
@@ -189,12 +195,24 @@ class Device {
 
  private:
   void recvLoop(Link& link);
+  // Splits what `link` read and files every record.
+  void dispatch(Link& link, Client& client, const Bytes& raw);
+  // A blocking caller's wait for its reply on a socket link: it reads the
+  // link itself while it holds the reader role, or waits for the reader.
+  EchoPool::WaitResult leadOrFollow(Link& link, NetworkClient& client, int64_t key,
+                                    Clock::time_point deadline, Bytes& out, CancelToken* tok);
+  // The reply wait of the calling thread or fiber.
+  EchoPool::WaitResult replyWait(int64_t key, Clock::time_point deadline, Bytes& out,
+                                 CancelToken* tok);
   void throwIfClosed() const;
   // Sends one packet on the command link, giving up at `deadline`
   // (SendTimeout).
   void sendBefore(int cmd, std::span<const uint8_t> data_out, Clock::time_point deadline);
   // The reply for key, looked for until `timeout` seconds after `start`.
   Bytes waitReply(int64_t key, Clock::time_point start, double timeout, CancelToken* tok);
+  // The end of a reply wait that gave `r`: the reply, or the error.
+  Bytes endWait(EchoPool::WaitResult r, Bytes out, Clock::time_point start, double timeout,
+                CancelToken* tok);
 
   std::string class_name_;
   std::recursive_mutex close_m_;

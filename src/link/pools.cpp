@@ -128,7 +128,7 @@ void EchoPool::clear() {
 }
 
 EchoPool::WaitResult EchoPool::waitPop(int64_t key, Clock::time_point deadline, Bytes& out,
-                                       CancelToken* tok) {
+                                       CancelToken* tok, const std::atomic<bool>* stop) {
   WakerScope ws(tok, [this] { wakeAll(); });
   std::unique_lock lk(m_);
   for (;;) {
@@ -141,6 +141,7 @@ EchoPool::WaitResult EchoPool::waitPop(int64_t key, Clock::time_point deadline, 
     if (ws.signalled(lk)) continue;
     if (tok && tok->cancelled()) return WaitResult::Cancelled;
     if (closed_) return WaitResult::Closed;
+    if (stop && stop->load(std::memory_order_acquire)) return WaitResult::Stopped;
     if (Clock::now() >= deadline) return WaitResult::TimedOut;
     cv_.wait_until(lk, deadline);
   }

@@ -43,7 +43,7 @@ class CancelToken {
 // data_pool_echo: one slot per key, the latest reply.
 class EchoPool {
  public:
-  enum class WaitResult { Taken, TimedOut, Cancelled, Closed };
+  enum class WaitResult { Taken, TimedOut, Cancelled, Closed, Stopped };
 
   void put(int64_t key, Bytes data);
   std::optional<Bytes> pop(int64_t key);
@@ -53,8 +53,10 @@ class EchoPool {
   void clear();
 
   // Waits until a reply for key is there (taking it) or until `deadline`.
-  // A reply already present is taken at once.
-  WaitResult waitPop(int64_t key, Clock::time_point deadline, Bytes& out, CancelToken* tok);
+  // A reply already present is taken at once.  With `stop`, the wait also
+  // ends (Stopped) once the flag is set and wakeAll() called.
+  WaitResult waitPop(int64_t key, Clock::time_point deadline, Bytes& out, CancelToken* tok,
+                     const std::atomic<bool>* stop = nullptr);
   // Sleeps until `deadline` unless cancelled or closed meanwhile.
   WaitResult sleepUntil(Clock::time_point deadline, CancelToken* tok);
 

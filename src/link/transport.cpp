@@ -207,6 +207,7 @@ void NetworkClient::adopt(int fd) {
   use_cv_.wait(lk, [&] { return !closing_; });
   if (fd_.load() >= 0) retireLocked(lk);
   fd_ = fd;
+  ++socket_id_;
 }
 
 void NetworkClient::disconnect() {
@@ -241,6 +242,49 @@ Bytes NetworkClient::recvPacket(size_t length) {
   if (n < 0) throwIoError(errno, "recv failed");
   buf.resize(static_cast<size_t>(n));
   return buf;
+}
+
+NetworkClient::Recv NetworkClient::recvWithin(size_t length, SteadyTime deadline, int wake_fd,
+                                              Bytes& out) {
+  Use use(*this);
+  if (use.closing()) return Recv::Closed;
+  out.resize(length);
+  for (;;) {
+    const ssize_t n = ::recv(use.fd(), out.data(), length, MSG_DONTWAIT);
+    if (n > 0) {
+      out.resize(static_cast<size_t>(n));
+      return Recv::Data;
+    }
+    if (n < 0 && errno == EINTR) continue;
+    if (n == 0 || (errno != EAGAIN && errno != EWOULDBLOCK)) {
+      out.clear();
+      return Recv::Closed;
+    }
+    out.clear();
+    const auto now = std::chrono::steady_clock::now();
+    if (now >= deadline) return Recv::TimedOut;
+    timespec ts{};
+    timespec* tsp = nullptr;
+    if (deadline != SteadyTime::max()) {
+      const auto left = std::chrono::duration_cast<std::chrono::nanoseconds>(deadline - now);
+      ts.tv_sec = static_cast<time_t>(left.count() / 1000000000);
+      ts.tv_nsec = static_cast<long>(left.count() % 1000000000);
+      tsp = &ts;
+    }
+    pollfd p[2] = {{use.fd(), POLLIN, 0}, {wake_fd, POLLIN, 0}};
+    const int rc = ::ppoll(p, wake_fd >= 0 ? 2 : 1, tsp, nullptr);
+    if (rc < 0) {
+      if (errno == EINTR) return Recv::Woken;
+      throw OSError(errno, "poll failed");
+    }
+    if (rc == 0) return Recv::TimedOut;
+    if (wake_fd >= 0 && (p[1].revents & POLLIN)) {
+      uint64_t v;
+      [[maybe_unused]] const ssize_t r = ::read(wake_fd, &v, sizeof v);
+      return Recv::Woken;
+    }
+    out.resize(length);
+  }
 }
 
 void NetworkClient::sendPacket(std::span<const uint8_t> packet, SteadyTime deadline) {

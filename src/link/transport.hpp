@@ -68,13 +68,23 @@ class NetworkClient : public Client {
   void setTimeout(std::optional<double> timeout);
   bool hasSocket() const { return fd_.load() >= 0; }
   int fd() const { return fd_.load(); }
+  // Changes whenever the client takes a new socket (the number may repeat).
+  uint64_t socketId() const { return socket_id_.load(); }
   Bytes recvPacket(size_t length) override;
+  // One read of at most `length` bytes that waits for the socket no longer
+  // than `deadline` (a past deadline only tries), and ends early when
+  // `wake_fd` (an eventfd, or -1) is signalled or a signal interrupts the
+  // wait; the wake is drained.  Closed: the peer closed, the link failed or
+  // is being shut.
+  enum class Recv { Data, Closed, TimedOut, Woken };
+  Recv recvWithin(size_t length, SteadyTime deadline, int wake_fd, Bytes& out);
   using Client::sendPacket;
   void sendPacket(std::span<const uint8_t> packet, SteadyTime deadline) override;
 
  protected:
   void adopt(int fd);  // takes a new socket (the old one, if any, is closed)
   std::atomic<int> fd_{-1};
+  std::atomic<uint64_t> socket_id_{0};
   std::mutex use_m_;
   std::condition_variable use_cv_;
   int readers_ = 0;  // threads inside recv/send on fd_
