@@ -1,15 +1,21 @@
-"""The pyorv command line.
+"""The pyorv command line (the `pyorv` script, or `python -m pyorv`).
 
-    python -m pyorv demo                      a short tour against a simulated device
-    python -m pyorv sim [--model NAME ...]    simulated devices on loopback until Ctrl-C
-    python -m pyorv find --broadcast HOST     discovery of network devices
-    python -m pyorv info HOST[:PORT]          driver info and serial number of one device
+    pyorv demo                      a short tour against a simulated device
+    pyorv sim [--model NAME ...]    simulated devices on loopback until Ctrl-C
+    pyorv find --broadcast HOST     discovery of network devices
+    pyorv info HOST[:PORT]          driver info and serial number of one device
+    pyorv udev-rules                where the udev rules for USB access without root are
+
+MAC addresses are printed in one form, the two-digit upper-case form the
+device's configuration uses ("02:4F:52:56:00:0A"), and read in any of the
+usual ones (colons, dashes, dots or none, either case).
 """
 
 import argparse
 import asyncio
 import ipaddress
 import os
+import re
 import signal
 import sys
 import threading
@@ -42,6 +48,32 @@ def _is_loopback(host):
         return ipaddress.IPv4Address(host).is_loopback
     except ipaddress.AddressValueError:
         return False
+
+
+def _mac_bytes(text):
+    """The 6 bytes of a MAC address written with colons, dashes, dots or
+    nothing between the digits, in either case; ValueError otherwise."""
+    t = text.strip()
+    parts = t.split(":") if ":" in t else t.split("-")
+    if len(parts) == 6 and all(re.fullmatch(r"[0-9A-Fa-f]{1,2}", p) for p in parts):
+        return bytes(int(p, 16) for p in parts)
+    digits = t.replace(".", "")
+    if re.fullmatch(r"[0-9A-Fa-f]{12}", digits) and ("." not in t or len(t) == 14):
+        return bytes.fromhex(digits)
+    raise ValueError(f"not a MAC address: {text!r}")
+
+
+def _mac(value):
+    """A MAC address (text or 6 bytes) as the command line prints it: 02:4F:52:56:00:0A."""
+    b = value if isinstance(value, (bytes, bytearray)) else _mac_bytes(value)
+    return ":".join(f"{x:02X}" for x in b)
+
+
+def _mac_arg(text):
+    try:
+        return _mac(text)
+    except ValueError as e:
+        raise argparse.ArgumentTypeError(str(e)) from None
 
 
 def _text(reply):
@@ -102,7 +134,7 @@ def cmd_demo(args):
             print(f"serial number          {dev.Sys_getSerialNumber()}")
             print(f"clock                  {dev.Sys_getRTC()}")
             print(f"address and mask       {dev.Net_getIPAddrAndSubmask()}")
-            print(f"MAC address            {dev.Net_getMACAddr()}")
+            print(f"MAC address            {_mac(dev.Net_getMACAddr())}")
             print(f"pin modes of port 0    {dev.Sys_getPinModeInPort(0)}")
 
             start = time.perf_counter()
@@ -155,7 +187,7 @@ def cmd_sim(args):
                 where = f"{dev.host} cmd_port={dev.cmd_port} data_port={dev.data_port}"
             else:
                 where = "virtual, reachable from this process only"
-            print(f"{dev.model} {args.link} {where} serial={dev.serial} mac={cfg.mac}",
+            print(f"{dev.model} {args.link} {where} serial={dev.serial} mac={_mac(cfg.mac)}",
                   flush=True)
         if args.discovery:
             port = simulator.start_discovery(args.host, args.discovery_port,
@@ -181,9 +213,8 @@ def _device_info_line(answer):
         return f"(short answer {b.hex()})"
     ip = ".".join(str(x) for x in b[0:4])
     mask = ".".join(str(x) for x in b[4:8])
-    mac = ":".join(f"{x:02x}" for x in b[8:14])
     model = b[14:].decode("ascii", errors="replace").rstrip("\0")
-    return f"{model} eth {ip} mask={mask} mac={mac}"
+    return f"{model} eth {ip} mask={mask} mac={_mac(b[8:14])}"
 
 
 def _collect(finder, timeout):
@@ -210,6 +241,9 @@ def cmd_find(args):
     except argparse.ArgumentTypeError as e:
         return _fail(f"broadcast target: {e}", 2)
     finder = pyorv.DeviceFinder(verbose=False, broadcast_addr=f"{host}:{port}")
+    window = finder.broadcast_window
+    if args.timeout is not None:
+        window = min(window, args.timeout)
     try:
         finder.connect(verbose=False)
     except (pyorv.Error, OSError) as e:
@@ -222,13 +256,19 @@ def cmd_find(args):
         finder.close(verbose=False)
         return _fail(f"cannot receive answers on UDP port {pyorv.UDP_RECV_PORT}: {e}")
     try:
+        print(f"searching for devices on {host}:{port} (answers to UDP port "
+              f"{pyorv.UDP_RECV_PORT}) for {window:.1f} s ...", file=sys.stderr, flush=True)
         answers = sorted(_collect(finder, args.timeout))
+        print("listing USB devices ...", file=sys.stderr, flush=True)
         usb = finder.Bcst_enumerateUSBDevices()
         finder.disconnect(verbose=False)
     except (pyorv.Error, OSError) as e:
         return _fail(str(e))
     finally:
         finder.close(verbose=False)
+    if args.mac:
+        answers = [a for a in answers if len(a) >= 14 and _mac(bytes(a)[8:14]) == args.mac]
+        usb = []
     for a in answers:
         print(_device_info_line(a))
     for serial, product in usb:
@@ -265,7 +305,7 @@ def cmd_info(args):
         print(f"clock                  {dev.Sys_getRTC()}")
         print(f"address and mask       {dev.Net_getIPAddrAndSubmask()}")
         print(f"gateway                {dev.Net_getGateway()}")
-        print(f"MAC address            {dev.Net_getMACAddr()}")
+        print(f"MAC address            {_mac(dev.Net_getMACAddr())}")
         dev.disconnect(verbose=False)
     except (pyorv.Error, OSError) as e:
         return _fail(f"{host}:{port}: {e}")
@@ -274,13 +314,36 @@ def cmd_info(args):
     return 0
 
 
+# ---- udev-rules -------------------------------------------------------------------------
+
+def udev_rules_path():
+    """The udev rules file the package ships for USB access without root."""
+    from importlib import resources
+    return resources.files("pyorv") / "data" / "99-orv.rules"
+
+
+def cmd_udev_rules(args):
+    path = udev_rules_path()
+    if args.print:
+        print(path.read_text(), end="")
+        return 0
+    print(path)
+    print(f"install it with: sudo cp {path} /etc/udev/rules.d/ && "
+          f"sudo udevadm control --reload-rules && sudo udevadm trigger", file=sys.stderr)
+    return 0
+
+
 # ---- entry ----------------------------------------------------------------------------
 
-def _parser():
-    p = argparse.ArgumentParser(prog="python -m pyorv",
-                                description="ORV driver tools and the device simulator")
-    p.add_argument("--version", action="version", version=f"pyorv {pyorv.__version__}")
-    sub = p.add_subparsers(dest="command", required=True, metavar="COMMAND")
+def _parser(prog="pyorv"):
+    p = argparse.ArgumentParser(prog=prog,
+                                description="ORV driver tools and the device simulator. "
+                                            "Nothing here sends to the network unless told "
+                                            "where.")
+    p.add_argument("--version", action="version", version=f"pyorv {pyorv.__version__}",
+                   help="print the package version and exit")
+    sub = p.add_subparsers(dest="command", required=True, metavar="COMMAND",
+                           help="one of the commands below; COMMAND -h tells more")
 
     d = sub.add_parser("demo", help="a short tour against a simulated device in this process")
     d.set_defaults(run=cmd_demo)
@@ -288,7 +351,9 @@ def _parser():
     s = sub.add_parser("sim", help="run simulated devices on loopback until Ctrl-C or SIGTERM")
     s.add_argument("--model", nargs="+", action="extend", metavar="NAME",
                    help="one device per model name (default: Trellis); repeatable")
-    s.add_argument("--link", choices=("eth", "wifi", "usb"), default="eth")
+    s.add_argument("--link", choices=("eth", "wifi", "usb"), default="eth",
+                   help="how the devices are reached: eth (TCP commands), wifi (TCP commands "
+                        "and data) or usb (virtual USB, this process only); default eth")
     s.add_argument("--discovery", action="store_true",
                    help="answer UDP discovery on HOST (see the printed PYORV_BROADCAST_ADDR)")
     s.add_argument("--discovery-port", type=int, default=pyorv.UDP_SEND_PORT, metavar="N",
@@ -304,6 +369,10 @@ def _parser():
     f.add_argument("--timeout", type=float, metavar="S",
                    help=f"seconds to collect answers (at most the {pyorv.PACKET_TIMEOUT} s "
                         f"discovery window, which is the default)")
+    f.add_argument("--mac", type=_mac_arg, metavar="MAC",
+                   help="show only the network device with this MAC address "
+                        "(02:4F:52:56:00:0A, 02-4f-52-56-00-0a, 024f.5256.000a or "
+                        "024F5256000A)")
     f.set_defaults(run=cmd_find)
 
     i = sub.add_parser("info", help="driver info and serial number of a network device")
@@ -311,11 +380,19 @@ def _parser():
                    type=lambda t: _split_host_port(t, pyorv.TCP_CMD_PORT),
                    help=f"the device's address; PORT defaults to {pyorv.TCP_CMD_PORT}")
     i.set_defaults(run=cmd_info)
+
+    u = sub.add_parser("udev-rules",
+                       help="print where the udev rules file for USB access without root is")
+    u.add_argument("--print", action="store_true",
+                   help="print the rules themselves instead of the file's path")
+    u.set_defaults(run=cmd_udev_rules)
     return p
 
 
 def main(argv=None):
-    args = _parser().parse_args(argv)
+    # `python -m pyorv` and the `pyorv` script are the same program.
+    prog = "python -m pyorv" if sys.argv[0].endswith("__main__.py") else "pyorv"
+    args = _parser(prog).parse_args(argv)
     if getattr(args, "model", "") is None:
         args.model = ["Trellis"]
     return args.run(args)

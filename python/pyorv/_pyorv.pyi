@@ -59,7 +59,7 @@ class NetworkConnectionLostError(Error):
         """
         (self: object, msg: object = None, *args, **kwargs) -> None
         """
-class ReceivePacketTimeoutError(Error):
+class ReceivePacketTimeoutError(Error, TimeoutError):
     code: typing.ClassVar[int] = -8004
     default_message: typing.ClassVar[str] = 'Receive packet timeout.'
     @staticmethod
@@ -1109,6 +1109,11 @@ class BroadcastDevice(Device):
         ...
     def disconnect(self, verbose: bool = True) -> None:
         ...
+    @property
+    def broadcast_window(self) -> float:
+        """
+        seconds a broadcast collects answers: PACKET_TIMEOUT, or PYORV_BROADCAST_WINDOW when set
+        """
     @property
     def client_udp(self) -> UDPClient:
         ...

@@ -92,6 +92,23 @@ void closeAllDevices() {
   }
 }
 
+void warnUnclosed(const Device& d) {
+  std::string where;
+  if (auto* net = dynamic_cast<const NetworkDevice*>(&d)) {
+    if (auto ip = net->ipAddr()) where = " at " + *ip;
+  } else if (auto* usb = dynamic_cast<const USBDevice*>(&d)) {
+    if (auto serial = usb->serialNum()) where = " serial " + *serial;
+  } else if (auto* bcst = dynamic_cast<const BroadcastDevice*>(&d)) {
+    if (bcst->connectStatusUdp()) where = " on UDP port " + std::to_string(UDP_RECV_PORT);
+  }
+  const std::string text = "unclosed device " + d.deviceName() + where +
+                           ": it was garbage-collected while open and is closed now; call "
+                           "close() or use it in a with block";
+  // Called from a deleter, possibly while an exception is on its way.
+  py::error_scope keep_pending;
+  if (PyErr_WarnEx(PyExc_ResourceWarning, text.c_str(), 1) != 0) PyErr_WriteUnraisable(nullptr);
+}
+
 // ---- binding -----------------------------------------------------------------
 
 void bindLink(py::module_& m) {
@@ -382,6 +399,9 @@ void bindLink(py::module_& m) {
       .def("close", &BroadcastDevice::close, py::arg("verbose") = true,
            py::call_guard<py::gil_scoped_release>())
       .def_property_readonly("connect_status_udp", &BroadcastDevice::connectStatusUdp)
+      .def_property_readonly("broadcast_window", &BroadcastDevice::broadcastWindow,
+                             "seconds a broadcast collects answers: PACKET_TIMEOUT, or "
+                             "PYORV_BROADCAST_WINDOW when set")
       .def_property_readonly("client_udp", &BroadcastDevice::clientUdp);
 }
 

@@ -1,6 +1,7 @@
 // Binding a device class: its constructor makes the object with a holder
 // whose deleter drops the GIL (the destructor joins the receive threads), and
-// registers it to be closed at interpreter exit.
+// registers it to be closed at interpreter exit.  A device collected while
+// still open says so with a ResourceWarning before its destructor closes it.
 #pragma once
 
 #include <pybind11/pybind11.h>
@@ -17,11 +18,14 @@ namespace orv::py_bind {
 
 void trackDevice(const std::shared_ptr<Device>& d);
 void closeAllDevices();
+// Emits the ResourceWarning of a device dropped without close (GIL held).
+void warnUnclosed(const Device& d);
 
 template <class T>
 std::shared_ptr<T> makeDevice(bool verbose, const char* class_name) {
   std::shared_ptr<T> p(new T(verbose, class_name), [](T* t) {
     if (Py_IsInitialized() && PyGILState_Check()) {
+      if (!t->killed()) warnUnclosed(*t);
       py::gil_scoped_release r;
       delete t;
     } else {

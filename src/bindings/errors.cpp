@@ -56,11 +56,37 @@ std::string warningStr(py::object self) {
       .cast<std::string>();
 }
 
-py::object makeClass(const char* name, py::object base, py::module_& m) {
+py::object makeClass(const char* name, py::tuple bases, py::module_& m) {
   py::dict ns;
   ns["__module__"] = m.attr("__name__");
-  return py::reinterpret_borrow<py::object>((PyObject*)&PyType_Type)(name, py::make_tuple(base),
-                                                                     ns);
+  return py::reinterpret_borrow<py::object>((PyObject*)&PyType_Type)(name, bases, ns);
+}
+
+py::object makeClass(const char* name, py::object base, py::module_& m) {
+  return makeClass(name, py::make_tuple(base), m);
+}
+
+// The rows' second bases: builtin exception classes of the host.
+struct AlsoBase {
+  ErrorId id;
+  const char* builtin;
+};
+constexpr AlsoBase kAlsoBases[] = {
+#define ORV_ERR(kind, cls, constant, code, status, msg)
+#define ORV_ERR_NC(kind, cls, code, msg)
+#define ORV_ERR_ALSO(cls, builtin) {ErrorId::cls, #builtin},
+#include "link/errors.def"
+#undef ORV_ERR
+#undef ORV_ERR_NC
+#undef ORV_ERR_ALSO
+};
+
+py::tuple basesOf(const ErrorInfo& row, py::object base) {
+  py::list out;
+  out.append(base);
+  for (const AlsoBase& also : kAlsoBases)
+    if (also.id == row.id) out.append(py::module_::import("builtins").attr(also.builtin));
+  return py::tuple(out);
 }
 
 }  // namespace
@@ -90,7 +116,7 @@ void bindErrors(py::module_& m) {
     const ErrorInfo& row = table[i];
     py::object base = row.kind == ErrorKind::Warning ? g_warning_base : g_error_base;
     std::string name(row.name);
-    py::object cls = makeClass(name.c_str(), base, m);
+    py::object cls = makeClass(name.c_str(), basesOf(row, base), m);
     const int code = row.code;
     const std::string message(row.message);
     // Name(msg=None, *args, **kwargs): the class's own code, its message by default.
@@ -136,7 +162,10 @@ py::object exceptionObject(std::exception_ptr p) {
       kw["silent"] = true;  // its report was made when the C++ side made it
       return cls(e.msg(), **kw);
     }
-    return cls(e.msg());
+    py::object inst = cls(e.msg());
+    // The operating system's failure behind it, as `raise ... from OSError(...)`.
+    if (e.osErrno() != 0) inst.attr("__cause__") = builtin("OSError")(e.osErrno(), e.osText());
+    return inst;
   } catch (const py::error_already_set& e) {
     return e.value();
   } catch (const TypeError& e) {
@@ -149,8 +178,8 @@ py::object exceptionObject(std::exception_ptr p) {
     return builtin("OSError")(e.err(), e.what());
   } catch (const GateAlreadyOpen& e) {
     return builtin("RuntimeError")(e.what());
-  } catch (const AsyncTimeout&) {
-    return py::module_::import("asyncio").attr("TimeoutError")();
+  } catch (const AsyncTimeout& e) {
+    return py::module_::import("asyncio").attr("TimeoutError")(e.what());
   } catch (const Cancelled&) {
     return py::module_::import("asyncio").attr("CancelledError")();
   } catch (const usb::Timeout& e) {

@@ -521,7 +521,7 @@ Bytes Device::echoPacketWithRetryAsync(int cmd, std::span<const uint8_t> data_ou
   if (r == EchoPool::WaitResult::Taken) return out;
   if (r == EchoPool::WaitResult::TimedOut) {
     throwIfClosed();
-    throw AsyncTimeout();
+    throw AsyncTimeout(cmd, timeout);
   }
   waitFailed(r);
 }

@@ -304,6 +304,8 @@ class BroadcastDevice : public Device {
 
   bool connectStatusUdp() const { return udp_.status; }
   std::shared_ptr<UDPClient> clientUdp() const;
+  // How long a broadcast collects answers, in seconds.
+  double broadcastWindow() const { return bcst_window_; }
 
  protected:
   UDPClient* broadcastClient() override;

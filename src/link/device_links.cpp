@@ -38,6 +38,8 @@ std::shared_ptr<USBClient> USBDevice::clientCmd() const {
 }
 
 void USBDevice::connect(const std::string& serial_num, bool verbose) {
+  // A closed device is dead for good: refused before the link is touched.
+  if (killed()) raise(ErrorId::DeviceClosedError);
   if (cmd_.status) return;
   auto client = std::make_shared<USBClient>(serial_num);
   std::string serial = client->takeSerialNumber();
@@ -93,6 +95,7 @@ std::shared_ptr<TCPClient> NetworkDevice::clientCmd() const {
 }
 
 void NetworkDevice::connect(const std::string& ip_addr, int port, bool verbose) {
+  if (killed()) raise(ErrorId::DeviceClosedError);
   if (cmd_.status) return;
   auto client = clientCmd();
   if (!client) raise(ErrorId::DeviceClosedError);
@@ -142,6 +145,7 @@ std::shared_ptr<TCPClient> WifiDevice::clientData() const {
 }
 
 bool WifiDevice::connect(const std::string& ip, int port1, int port2, bool verbose) {
+  if (killed()) raise(ErrorId::DeviceClosedError);
   NetworkDevice::connect(ip, port2, false);
   auto client = clientData();
   if (!client) raise(ErrorId::DeviceClosedError);
@@ -194,6 +198,7 @@ std::shared_ptr<UDPClient> BroadcastDevice::clientUdp() const { return udp_clien
 UDPClient* BroadcastDevice::broadcastClient() { return udp_client_.get(); }
 
 void BroadcastDevice::connect(bool verbose) {
+  if (killed()) raise(ErrorId::DeviceClosedError);
   if (udp_.status) return;
   udp_.status = udp_client_->bind("", UDP_RECV_PORT);
   udp_.gate.open();

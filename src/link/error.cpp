@@ -1,5 +1,6 @@
 #include "link/error.hpp"
 
+#include <cstdio>
 #include <cstring>
 
 #include "link/report.hpp"
@@ -39,7 +40,16 @@ Error::Error(ErrorId id, std::string msg)
 OSError::OSError(int err, const std::string& what)
     : std::runtime_error(what + ": " + std::strerror(err)), err_(err) {}
 
+AsyncTimeout::AsyncTimeout(int cmd, double seconds)
+    : std::runtime_error([&] {
+        char text[96];
+        std::snprintf(text, sizeof text, "no reply to command 0x%02X (%d) within %g s", cmd, cmd,
+                      seconds);
+        return std::string(text);
+      }()) {}
+
 void raise(ErrorId id) { throw Error(id); }
+void raiseOs(ErrorId id, int err) { throw Error(id).causedBy(err, std::strerror(err)); }
 void raise(ErrorId id, std::string msg) { throw Error(id, std::move(msg)); }
 
 ErrorId firmwareErrorFor(int64_t status) {

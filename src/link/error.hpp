@@ -53,10 +53,21 @@ class Error : public std::runtime_error {
   int code() const { return errorInfo(id_).code; }
   const std::string& msg() const { return msg_; }
   bool isWarning() const { return errorInfo(id_).kind == ErrorKind::Warning; }
+  // The operating system's failure behind the error (a refused connect, a
+  // device that is not there): its errno and text; errno 0 when there is none.
+  int osErrno() const { return os_errno_; }
+  const std::string& osText() const { return os_text_; }
+  Error& causedBy(int err, std::string text) {
+    os_errno_ = err;
+    os_text_ = std::move(text);
+    return *this;
+  }
 
  private:
   ErrorId id_;
   std::string msg_;
+  int os_errno_ = 0;
+  std::string os_text_;
 };
 
 // Errors of the host's own kinds, for the places where the device interface
@@ -83,6 +94,8 @@ class OSError : public std::runtime_error {
 class AsyncTimeout : public std::runtime_error {
  public:
   AsyncTimeout() : std::runtime_error("the device did not answer in time") {}
+  // "no reply to command 0xF0 (240) within 3 s"
+  AsyncTimeout(int cmd, double seconds);
 };
 // The awaitable call was cancelled by its caller.
 class Cancelled : public std::runtime_error {
@@ -92,6 +105,8 @@ class Cancelled : public std::runtime_error {
 
 [[noreturn]] void raise(ErrorId id);
 [[noreturn]] void raise(ErrorId id, std::string msg);
+// The row's error, caused by the operating system's errno `err`.
+[[noreturn]] void raiseOs(ErrorId id, int err);
 
 // Maps a firmware status byte to its error: returns 0 for 0, otherwise throws.
 int checkFirmwareError(int64_t status);

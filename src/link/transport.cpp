@@ -22,6 +22,8 @@
 #include <chrono>
 #include <cmath>
 #include <cstdlib>
+#include <cstring>
+#include <string>
 
 #include "link/constants.hpp"
 #include "link/error.hpp"
@@ -82,9 +84,25 @@ namespace {
 
 using namespace std::chrono_literals;
 
+// Why a socket step failed: an errno (or the resolver's code) and its text.
+struct Cause {
+  int err = 0;
+  std::string text;
+};
+
+bool failed(Cause* why, int err) {
+  if (why) *why = {err, std::strerror(err)};
+  return false;
+}
+
+[[noreturn]] void raiseCaused(ErrorId id, const Cause& why) {
+  throw Error(id).causedBy(why.err, why.text);
+}
+
 // Resolves an IPv4 address text or host name ("" is every interface).
-bool resolveIPv4(const std::string& host, int port, int socktype, sockaddr_in* out) {
-  if (port < 0 || port > 65535) return false;
+bool resolveIPv4(const std::string& host, int port, int socktype, sockaddr_in* out,
+                 Cause* why = nullptr) {
+  if (port < 0 || port > 65535) return failed(why, EINVAL);
   *out = {};
   out->sin_family = AF_INET;
   out->sin_port = htons(static_cast<uint16_t>(port));
@@ -95,12 +113,17 @@ bool resolveIPv4(const std::string& host, int port, int socktype, sockaddr_in* o
   if (inet_aton(host.c_str(), &out->sin_addr) != 0) return true;
   // Digits and dots that are no address are no host name either: refuse them
   // without asking a name server.
-  if (host.find_first_not_of("0123456789.") == std::string::npos) return false;
+  if (host.find_first_not_of("0123456789.") == std::string::npos) return failed(why, EINVAL);
   addrinfo hints{};
   hints.ai_family = AF_INET;
   hints.ai_socktype = socktype;
   addrinfo* res = nullptr;
-  if (getaddrinfo(host.c_str(), nullptr, &hints, &res) != 0 || res == nullptr) return false;
+  const int rc = getaddrinfo(host.c_str(), nullptr, &hints, &res);
+  if (rc == EAI_SYSTEM) return failed(why, errno);
+  if (rc != 0 || res == nullptr) {
+    if (why) *why = {rc != 0 ? rc : EAI_NONAME, gai_strerror(rc != 0 ? rc : EAI_NONAME)};
+    return false;
+  }
   out->sin_addr = reinterpret_cast<const sockaddr_in*>(res->ai_addr)->sin_addr;
   freeaddrinfo(res);
   return true;
@@ -158,24 +181,25 @@ bool waitWritable(int fd, SteadyTime deadline) {
 }
 
 // Connects a fresh socket, waiting at most `seconds`.
-bool connectWithin(int fd, const sockaddr_in& addr, double seconds) {
+bool connectWithin(int fd, const sockaddr_in& addr, double seconds, Cause* why) {
   setBlocking(fd, false);
   int rc = ::connect(fd, reinterpret_cast<const sockaddr*>(&addr), sizeof addr);
   if (rc == 0) return true;
-  if (errno != EINPROGRESS && errno != EINTR) return false;
+  if (errno != EINPROGRESS && errno != EINTR) return failed(why, errno);
   const auto deadline = deadlineAfter(std::chrono::steady_clock::now(), seconds);
   for (;;) {
     auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
         deadline - std::chrono::steady_clock::now());
-    if (left.count() <= 0) return false;
+    if (left.count() <= 0) return failed(why, ETIMEDOUT);
     pollfd p{fd, POLLOUT, 0};
     rc = poll(&p, 1, static_cast<int>(left.count()));
     if (rc < 0 && errno == EINTR) continue;
-    if (rc <= 0) return false;
+    if (rc < 0) return failed(why, errno);
+    if (rc == 0) return failed(why, ETIMEDOUT);
     int err = 0;
     socklen_t len = sizeof err;
-    if (getsockopt(fd, SOL_SOCKET, SO_ERROR, &err, &len) != 0) return false;
-    return err == 0;
+    if (getsockopt(fd, SOL_SOCKET, SO_ERROR, &err, &len) != 0) return failed(why, errno);
+    return err == 0 || failed(why, err);
   }
 }
 
@@ -324,19 +348,20 @@ void NetworkClient::sendPacket(std::span<const uint8_t> packet, SteadyTime deadl
 
 bool TCPClient::connect(const std::string& ip_addr, int port) {
   const int fd = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, IPPROTO_TCP);
-  if (fd < 0) raise(ErrorId::NetworkConnectionError);
+  if (fd < 0) raiseOs(ErrorId::NetworkConnectionError, errno);
   // Commands are small and answered at once: no Nagle delay.
   const int one = 1;
   setsockopt(fd, IPPROTO_TCP, TCP_NODELAY, &one, sizeof one);
   sockaddr_in addr;
-  const bool ok =
-      resolveIPv4(ip_addr, port, SOCK_STREAM, &addr) && connectWithin(fd, addr, CONNECTION_TIMEOUT);
+  Cause why;
+  const bool ok = resolveIPv4(ip_addr, port, SOCK_STREAM, &addr, &why) &&
+                  connectWithin(fd, addr, CONNECTION_TIMEOUT, &why);
   setBlocking(fd, true);
   // The socket is kept even when the connect failed.
   adopt(fd);
   if (!ok) {
     setTimeout(CONNECTION_TIMEOUT);
-    raise(ErrorId::NetworkConnectionError);
+    raiseCaused(ErrorId::NetworkConnectionError, why);
   }
   setTimeout(std::nullopt);
   return true;
@@ -347,13 +372,15 @@ bool TCPClient::connect(const std::string& ip_addr, int port) {
 
 bool UDPClient::bind(const std::string& ip_addr, int port) {
   const int fd = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-  if (fd < 0) raise(ErrorId::NetworkConnectionError);
+  if (fd < 0) raiseOs(ErrorId::NetworkConnectionError, errno);
   sockaddr_in addr;
-  const bool ok = resolveIPv4(ip_addr, port, SOCK_DGRAM, &addr) &&
-                  ::bind(fd, reinterpret_cast<const sockaddr*>(&addr), sizeof addr) == 0;
+  Cause why;
+  const bool ok = resolveIPv4(ip_addr, port, SOCK_DGRAM, &addr, &why) &&
+                  (::bind(fd, reinterpret_cast<const sockaddr*>(&addr), sizeof addr) == 0 ||
+                   failed(&why, errno));
   adopt(fd);
   setTimeout(std::nullopt);
-  if (!ok) raise(ErrorId::NetworkConnectionError);
+  if (!ok) raiseCaused(ErrorId::NetworkConnectionError, why);
   return true;
 }
 

@@ -5,6 +5,7 @@
 // devices are found and opened by the same USBClient code.
 #pragma once
 
+#include <cerrno>
 #include <cstdint>
 #include <memory>
 #include <stdexcept>
@@ -19,9 +20,15 @@ class Timeout : public std::runtime_error {
  public:
   Timeout() : std::runtime_error("USB read timed out") {}
 };
-// Any other USB failure (device gone, pipe error, ...).
+// Any other USB failure (device gone, pipe error, ...), with the errno
+// closest to it.
 class Failure : public std::runtime_error {
-  using std::runtime_error::runtime_error;
+ public:
+  explicit Failure(const std::string& what, int err = EIO) : std::runtime_error(what), err_(err) {}
+  int err() const { return err_; }
+
+ private:
+  int err_;
 };
 
 // An opened device.

@@ -1,6 +1,7 @@
 // USBClient: the family's bulk endpoints through whichever backend holds the
 // device, and the registry of backends besides libusb.
 #include <algorithm>
+#include <cerrno>
 #include <climits>
 #include <mutex>
 
@@ -57,14 +58,20 @@ USBClient::USBClient(const std::string& serial_num) {
     for (const auto& candidate : backend->enumerate()) {
       if (!isFamily(*candidate)) continue;
       if (serial_num != "default" && candidate->serialNumber() != serial_num) continue;
-      handle_ = candidate->open();
+      try {
+        handle_ = candidate->open();
 #ifdef __linux__
-      if (handle_->kernelDriverActive(0)) handle_->detachKernelDriver(0);
+        if (handle_->kernelDriverActive(0)) handle_->detachKernelDriver(0);
 #endif
+      } catch (const usb::Failure& f) {
+        // Found but not ours to use (no permission, busy): the system's reason
+        // goes with the connection error.
+        raiseOs(ErrorId::USBConnectionError, f.err());
+      }
       return;
     }
   }
-  raise(ErrorId::USBConnectionError);
+  raiseOs(ErrorId::USBConnectionError, ENODEV);
 }
 
 USBClient::~USBClient() = default;

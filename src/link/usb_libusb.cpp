@@ -5,6 +5,7 @@
 #include <sys/types.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdint>
 #include <map>
 #include <mutex>
@@ -71,6 +72,18 @@ struct Lib {
     return name ? name : "libusb error " + std::to_string(code);
   }
 };
+
+// The errno closest to a libusb error code (LIBUSB_ERROR_IO, _INVALID_PARAM,
+// _ACCESS, _NO_DEVICE, _NOT_FOUND, _BUSY, _TIMEOUT, _PIPE, _NO_MEM,
+// _NOT_SUPPORTED); EIO for the others.
+int errnoOf(int code) {
+  static constexpr std::pair<int, int> kErrnos[] = {
+      {-1, EIO},   {-2, EINVAL},    {-3, EACCES}, {-4, ENODEV},  {-5, ENOENT},
+      {-6, EBUSY}, {-7, ETIMEDOUT}, {-9, EPIPE},  {-11, ENOMEM}, {-12, ENOSYS}};
+  for (const auto& [libusb, err] : kErrnos)
+    if (libusb == code) return err;
+  return EIO;
+}
 
 template <typename F>
 bool bind(void* dl, const char* name, F*& fn) {
@@ -207,7 +220,8 @@ class LibusbCandidate : public Candidate {
   std::unique_ptr<Handle> open() override {
     libusb_device_handle* h = nullptr;
     int rc = lib_->open(dev_, &h);
-    if (rc != 0) throw Failure("opening the USB device failed: " + lib_->errorText(rc));
+    if (rc != 0)
+      throw Failure("opening the USB device failed: " + lib_->errorText(rc), errnoOf(rc));
     auto handle = std::make_unique<LibusbHandle>(lib_, h, desc_);
     // The interface cannot be claimed while a kernel driver holds it.
 #ifdef __linux__

@@ -7,24 +7,31 @@ import pytest
 import pyorv
 
 
+# The packet timeout is also the builtin TimeoutError, so that one handler
+# serves the blocking twin and the awaitable one.
 @pytest.mark.parametrize(
-    "cls, code, message",
+    "cls, code, message, bases",
     [
-        (pyorv.ReceivePacketTimeoutError, -8004, "Receive packet timeout."),
+        (pyorv.ReceivePacketTimeoutError, -8004, "Receive packet timeout.",
+         (pyorv.Error, TimeoutError)),
         (pyorv.USBConnectionError, -8001,
-         "Failed to connect to ORV DAQ. Please check USB plugin status and serial number."),
-        (pyorv.CANTXNotVaildError, -8903, "The CAN TX is not valid or is not recognized"),
-        (pyorv.FirmwareEnableError, -7000, "The functionality is not enabled in the firmware"),
+         "Failed to connect to ORV DAQ. Please check USB plugin status and serial number.",
+         (pyorv.Error,)),
+        (pyorv.CANTXNotVaildError, -8903, "The CAN TX is not valid or is not recognized",
+         (pyorv.Error,)),
+        (pyorv.FirmwareEnableError, -7000, "The functionality is not enabled in the firmware",
+         (pyorv.Error,)),
         (pyorv.MRDRPortNotAvaliable, -8900,
-         "The drive port is not available or is already occupied by another process."),
+         "The drive port is not available or is already occupied by another process.",
+         (pyorv.Error,)),
     ],
 )
-def test_default_text_code_and_constant(cls, code, message):
+def test_default_text_code_and_constant(cls, code, message, bases):
     e = cls()
     assert (e.code, e.msg) == (code, message)
     assert str(e) == f"Error {code}: {message}"
     assert isinstance(e, pyorv.Error) and isinstance(e, Exception)
-    assert type(e).__bases__ == (pyorv.Error,)
+    assert type(e).__bases__ == bases
 
 
 def test_constants_own_message_and_printed_error(capsys):

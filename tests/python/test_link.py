@@ -2,6 +2,7 @@
 over real loopback sockets and the virtual USB backend."""
 
 import asyncio
+import errno
 import gc
 import os
 import re
@@ -16,6 +17,7 @@ import pytest
 
 import pyorv
 import pyorv.sim as sim
+from conftest import connect as conftest_connect
 from conftest import refuses, sent, thread_count, wait_until
 
 SILENT = 120  # a command the simulated firmware never answers here
@@ -72,6 +74,9 @@ def test_unconnected_reconnect_keeps_pools_and_failed_connect_can_be_retried(eth
     with pytest.raises(pyorv.NetworkConnectionError) as info:
         dev.connect("127.0.0.1", 1, verbose=False)  # nothing listens on port 1
     assert info.value.code == -8002 and not dev.connect_status_cmd
+    cause = info.value.__cause__  # the operating system's reason
+    assert type(cause) is ConnectionRefusedError
+    assert (cause.errno, cause.strerror) == (errno.ECONNREFUSED, os.strerror(errno.ECONNREFUSED))
     dev.connect(eth_sim.host, eth_sim.cmd_port, verbose=False)
     dev._putToDataPool(240, b"kept")
     dev.disconnect(verbose=False)
@@ -85,15 +90,38 @@ def test_unconnected_reconnect_keeps_pools_and_failed_connect_can_be_retried(eth
         dev._sendPacketWithoutReply(240, [0])
 
 
-def test_garbage_collected_open_device_is_closed(eth_sim):
+def test_garbage_collected_open_device_warns_and_is_closed(simulator):
+    sim_dev = simulator.add_device(sim.DeviceConfig(model="KestrelDioX", serial="SIMGC001"))
     threads = thread_count()
-    dev = pyorv.ETHDevice(verbose=False)
-    dev.connect(eth_sim.host, eth_sim.cmd_port, verbose=False)
-    assert thread_count() == threads + 1
-    del dev
-    gc.collect()
-    assert wait_until(lambda: thread_count() == threads)
-    assert wait_until(lambda: not eth_sim.host_connected())
+    dev = pyorv.KestrelDioX(verbose=False)
+    dev.connect(sim_dev.host, sim_dev.cmd_port, verbose=False)
+    assert thread_count() == threads + 1 and sim_dev.wait_for_host(sim.Channel.Cmd, 5.0)
+    with pytest.warns(ResourceWarning,
+                      match=rf"^unclosed device Kestrel-Dio_X at {re.escape(sim_dev.host)}:"):
+        del dev
+        gc.collect()
+    assert thread_count() == threads  # the destructor joined the receive thread
+    assert wait_until(lambda: not sim_dev.host_connected())
+
+
+@pytest.mark.parametrize("cls, model", [
+    ("ETHDevice", "Trellis"), ("WifiDevice", "HeronAin"), ("USBDevice", "PloverDio"),
+    ("BroadcastDevice", None), ("KestrelDioX", "KestrelDioX"), ("HeronAin", "HeronAin"),
+    ("PloverDio", "PloverDio"),
+])
+def test_connect_on_a_closed_device_is_refused_before_the_link(simulator, cls, model):
+    dev = getattr(pyorv, cls)(verbose=False)
+    dev.close(verbose=False)
+    sim_dev = model and simulator.add_device(sim.DeviceConfig(model=model, serial="SIMCL001"))
+    with pytest.raises(pyorv.DeviceClosedError) as info:
+        if sim_dev:
+            conftest_connect(dev, sim_dev)
+        else:
+            dev.connect(verbose=False)  # would bind the discovery port
+    assert info.value.code == pyorv.errDeviceClosed
+    assert dev._aliveThreads() == []
+    if sim_dev and sim_dev.link != sim.Link.Usb:
+        assert not sim_dev.host_connected()
 
 
 def test_open_device_at_interpreter_exit_does_not_hang(tmp_path):
@@ -202,6 +230,7 @@ def test_awaitable_timeout_is_the_event_loop_error(eth, eth_sim):
         with pytest.raises(asyncio.TimeoutError) as info:
             await eth._echoPacketWithRetry_async(SILENT, [0], num_retries=1, timeout=1.1)
         assert not isinstance(info.value, pyorv.ReceivePacketTimeoutError)
+        assert str(info.value) == "no reply to command 0x78 (120) within 1.1 s"
 
     asyncio.run(main())
 
@@ -343,8 +372,10 @@ def test_usb_round_trip_through_the_virtual_backend(simulator, recwarn):
     assert dev.serial_num == "SIMUSB01"
     assert dev._echoPacketWithRetry(pyorv.GET_DRIVER_INFO, [0], timeout=3) == \
         usb.config.driver_info.encode()
-    with pytest.raises(pyorv.USBConnectionError):
-        pyorv.USBDevice(verbose=False).connect("NOSUCH", verbose=False)
+    with pyorv.USBDevice(verbose=False) as other:
+        with pytest.raises(pyorv.USBConnectionError) as info:
+            other.connect("NOSUCH", verbose=False)
+    assert info.value.__cause__.errno == errno.ENODEV
     dev.disconnect(verbose=False)
     dev.close(verbose=False)
     assert dev._aliveThreads() == []
@@ -356,8 +387,9 @@ def test_close_after_a_failed_bind_ends_the_thread():
     blocker.bind(("", pyorv.UDP_RECV_PORT))
     try:
         finder = pyorv.BroadcastDevice(verbose=False, broadcast_addr="127.0.0.1")
-        with pytest.raises(pyorv.NetworkConnectionError):
+        with pytest.raises(pyorv.NetworkConnectionError) as info:
             finder.connect(verbose=False)
+        assert info.value.__cause__.errno == errno.EADDRINUSE
         finder.close(verbose=False)  # must not wait on the socket that never bound
         assert finder._aliveThreads() == []
     finally:
