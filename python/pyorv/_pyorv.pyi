@@ -1785,7 +1785,7 @@ class CounterModule:
         
         Raises, before anything is sent:
             PWMChannelNotAvaliableError: channel is not 0 or 1.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Counter_close_async(self, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -1813,7 +1813,7 @@ class CounterModule:
         
         Raises, before anything is sent:
             PWMChannelNotAvaliableError: channel is not 0 or 1.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Counter_open_async(self, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -1841,7 +1841,7 @@ class CounterModule:
         
         Raises, before anything is sent:
             PWMChannelNotAvaliableError: channel is not 0 or 1.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Counter_read_async(self, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -1869,7 +1869,7 @@ class CounterModule:
         
         Raises, before anything is sent:
             PWMChannelNotAvaliableError: channel is not 0 or 1.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Counter_start_async(self, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -1897,7 +1897,7 @@ class CounterModule:
         
         Raises, before anything is sent:
             PWMChannelNotAvaliableError: channel is not 0 or 1.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Counter_stop_async(self, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -1930,7 +1930,7 @@ class DIOModule:
             tuple[list[int], list[int], list[int]]: enabled, direction (1 output) and state, each a list of pin states
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DIO_loadStartup_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, tuple[list[int], list[int], list[int]]]:
         """
@@ -1957,7 +1957,7 @@ class DIOModule:
             int: 0, or a negative firmware error code
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DIO_saveStartup_async(self, port: int, enabled: int, direction: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -1986,7 +1986,7 @@ class DIOModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: port is not an int.
             DIPortNotAvaliableError: port is not a key of di_dict.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DIO_setPortDI_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2016,7 +2016,7 @@ class DIOModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: port is not an int.
             DOPortNotAvaliableError: port is not a key of do_dict.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DIO_setPortDO_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2046,7 +2046,7 @@ class DIOModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: port is not an int.
             DOPortNotAvaliableError: port is not a key of do_dict.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DIO_setPortIdle_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2078,7 +2078,8 @@ class DIOModule:
             InputTypeNotCorrectError: port is not an int, or pin neither an int nor a list.
             DIPortNotAvaliableError: port is not a key of di_dict.
             PinsNotExistError: a pin that is not in di_dict[port].
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            TypeError: pin given as an int (input pins take a list only).
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DI_closePins_async(self, port: int, pin: collections.abc.Sequence[int]) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2095,6 +2096,7 @@ class DIOModule:
             InputTypeNotCorrectError: port is not an int, or pin neither an int nor a list.
             DIPortNotAvaliableError: port is not a key of di_dict.
             PinsNotExistError: a pin that is not in di_dict[port].
+            TypeError: pin given as an int (input pins take a list only).
         """
     def DI_closePort(self, port: int, timeout: float = 3) -> int:
         """
@@ -2110,7 +2112,7 @@ class DIOModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: port is not an int.
             DIPortNotAvaliableError: port is not a key of di_dict.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DI_closePort_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2150,12 +2152,14 @@ class DIOModule:
             timeout (float): seconds to wait for each reply, above 0 (default 3)
         
         Returns:
-            int: 0, or a negative firmware error code; 0 at once, with nothing checked or sent, on KestrelRelay, KestrelDio, PloverSink and Trellis (wired pins)
+            int: as for DI_closePort; after reading the pin modes (Sys_getPinModeInPort), DIPortNotAvaliableError for a pin in a mode other than Idle or DI
         
         Raises, before anything is sent:
-            InputTypeNotCorrectError, DIPortNotAvaliableError, PinsNotExistError as for the port and pins;
-            DIPortNotAvaliableError: a named pin in a mode other than Idle or DI.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputTypeNotCorrectError: port is not an int, or pin neither an int nor a list.
+            DIPortNotAvaliableError: port is not a key of di_dict.
+            PinsNotExistError: a pin that is not in di_dict[port].
+            TypeError: pin given as an int (input pins take a list only).
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DI_openPins_async(self, port: int, pin: collections.abc.Sequence[int]) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2166,11 +2170,13 @@ class DIOModule:
             pin (collections.abc.Sequence[int]): pins of the port, e.g. [0, 2]
         
         Returns:
-            int: 0, or a negative firmware error code; 0 at once, with nothing checked or sent, on KestrelRelay, KestrelDio, PloverSink and Trellis (wired pins)
+            int: as for DI_closePort; after reading the pin modes (Sys_getPinModeInPort), DIPortNotAvaliableError for a pin in a mode other than Idle or DI
         
         Raises, before anything is sent:
-            InputTypeNotCorrectError, DIPortNotAvaliableError, PinsNotExistError as for the port and pins;
-            DIPortNotAvaliableError: a named pin in a mode other than Idle or DI.
+            InputTypeNotCorrectError: port is not an int, or pin neither an int nor a list.
+            DIPortNotAvaliableError: port is not a key of di_dict.
+            PinsNotExistError: a pin that is not in di_dict[port].
+            TypeError: pin given as an int (input pins take a list only).
         """
     def DI_openPort(self, port: int, timeout: float = 3) -> int:
         """
@@ -2181,12 +2187,12 @@ class DIOModule:
             timeout (float): seconds to wait for each reply, above 0 (default 3)
         
         Returns:
-            int: 0, or a negative firmware error code; 0 at once, with nothing checked or sent, on KestrelRelay, KestrelDio, PloverSink and Trellis (wired pins)
+            int: as for DI_closePort; after reading the pin modes (Sys_getPinModeInPort), DIPortNotAvaliableError for a pin in a mode other than Idle or DI
         
         Raises, before anything is sent:
             InputTypeNotCorrectError: port is not an int.
-            DIPortNotAvaliableError: port is not a key of di_dict, or a pin of it is in a mode other than Idle or DI.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            DIPortNotAvaliableError: port is not a key of di_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DI_openPort_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2196,11 +2202,11 @@ class DIOModule:
             port (int): input port, a key of di_dict
         
         Returns:
-            int: 0, or a negative firmware error code; 0 at once, with nothing checked or sent, on KestrelRelay, KestrelDio, PloverSink and Trellis (wired pins)
+            int: as for DI_closePort; after reading the pin modes (Sys_getPinModeInPort), DIPortNotAvaliableError for a pin in a mode other than Idle or DI
         
         Raises, before anything is sent:
             InputTypeNotCorrectError: port is not an int.
-            DIPortNotAvaliableError: port is not a key of di_dict, or a pin of it is in a mode other than Idle or DI.
+            DIPortNotAvaliableError: port is not a key of di_dict.
         """
     def DI_readPins(self, port: int, pin: collections.abc.Sequence[int], timeout: float = 3) -> list[int]:
         """
@@ -2218,7 +2224,8 @@ class DIOModule:
             InputTypeNotCorrectError: port is not an int, or pin neither an int nor a list.
             DIPortNotAvaliableError: port is not a key of di_dict.
             PinsNotExistError: a pin that is not in di_dict[port].
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            TypeError: pin given as an int (input pins take a list only).
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DI_readPins_async(self, port: int, pin: collections.abc.Sequence[int]) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
         """
@@ -2235,6 +2242,7 @@ class DIOModule:
             InputTypeNotCorrectError: port is not an int, or pin neither an int nor a list.
             DIPortNotAvaliableError: port is not a key of di_dict.
             PinsNotExistError: a pin that is not in di_dict[port].
+            TypeError: pin given as an int (input pins take a list only).
         """
     def DI_readPort(self, port: int, timeout: float = 3) -> list[int]:
         """
@@ -2250,7 +2258,7 @@ class DIOModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: port is not an int.
             DIPortNotAvaliableError: port is not a key of di_dict.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DI_readPort_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
         """
@@ -2279,10 +2287,11 @@ class DIOModule:
             int: 0, or a negative firmware error code; 0 at once, with nothing checked or sent, on KestrelRelay, KestrelDio, PloverSink and Trellis (wired pins)
         
         Raises, before anything is sent:
-            InputTypeNotCorrectError: port is not an int, or pin neither an int nor a list.
+            TypeError: pin is neither an int nor a list.
+            InputTypeNotCorrectError: port is not an int.
             DOPortNotAvaliableError: port is not a key of do_dict.
             PinsNotExistError: a pin that is not in do_dict[port].
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DO_closePins_async(self, port: int, pin: int | collections.abc.Sequence[int]) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2296,7 +2305,8 @@ class DIOModule:
             int: 0, or a negative firmware error code; 0 at once, with nothing checked or sent, on KestrelRelay, KestrelDio, PloverSink and Trellis (wired pins)
         
         Raises, before anything is sent:
-            InputTypeNotCorrectError: port is not an int, or pin neither an int nor a list.
+            TypeError: pin is neither an int nor a list.
+            InputTypeNotCorrectError: port is not an int.
             DOPortNotAvaliableError: port is not a key of do_dict.
             PinsNotExistError: a pin that is not in do_dict[port].
         """
@@ -2314,7 +2324,7 @@ class DIOModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: port is not an int.
             DOPortNotAvaliableError: port is not a key of do_dict.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DO_closePort_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2354,12 +2364,14 @@ class DIOModule:
             timeout (float): seconds to wait for each reply, above 0 (default 3)
         
         Returns:
-            int: 0, or a negative firmware error code; 0 at once, with nothing checked or sent, on KestrelRelay, KestrelDio, PloverSink and Trellis (wired pins)
+            int: as for DO_closePort; after reading the pin modes (Sys_getPinModeInPort), DOPortNotAvaliableError for a pin in a mode other than Idle or DO
         
         Raises, before anything is sent:
-            InputTypeNotCorrectError, DOPortNotAvaliableError, PinsNotExistError as for the port and pins;
-            DOPortNotAvaliableError: a named pin in a mode other than Idle or DO.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            TypeError: pin is neither an int nor a list.
+            InputTypeNotCorrectError: port is not an int.
+            DOPortNotAvaliableError: port is not a key of do_dict.
+            PinsNotExistError: a pin that is not in do_dict[port].
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DO_openPins_async(self, port: int, pin: int | collections.abc.Sequence[int]) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2370,11 +2382,13 @@ class DIOModule:
             pin (int | collections.abc.Sequence[int]): pins of the port: a list ([0, 2]) or a bit mask (0b101)
         
         Returns:
-            int: 0, or a negative firmware error code; 0 at once, with nothing checked or sent, on KestrelRelay, KestrelDio, PloverSink and Trellis (wired pins)
+            int: as for DO_closePort; after reading the pin modes (Sys_getPinModeInPort), DOPortNotAvaliableError for a pin in a mode other than Idle or DO
         
         Raises, before anything is sent:
-            InputTypeNotCorrectError, DOPortNotAvaliableError, PinsNotExistError as for the port and pins;
-            DOPortNotAvaliableError: a named pin in a mode other than Idle or DO.
+            TypeError: pin is neither an int nor a list.
+            InputTypeNotCorrectError: port is not an int.
+            DOPortNotAvaliableError: port is not a key of do_dict.
+            PinsNotExistError: a pin that is not in do_dict[port].
         """
     def DO_openPort(self, port: int, timeout: float = 3) -> int:
         """
@@ -2385,12 +2399,12 @@ class DIOModule:
             timeout (float): seconds to wait for each reply, above 0 (default 3)
         
         Returns:
-            int: 0, or a negative firmware error code; 0 at once, with nothing checked or sent, on KestrelRelay, KestrelDio, PloverSink and Trellis (wired pins)
+            int: as for DO_closePort; after reading the pin modes (Sys_getPinModeInPort), DOPortNotAvaliableError for a pin in a mode other than Idle or DO
         
         Raises, before anything is sent:
             InputTypeNotCorrectError: port is not an int.
-            DOPortNotAvaliableError: port is not a key of do_dict, or a pin of it is in a mode other than Idle or DO.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            DOPortNotAvaliableError: port is not a key of do_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DO_openPort_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2400,11 +2414,11 @@ class DIOModule:
             port (int): output port, a key of do_dict
         
         Returns:
-            int: 0, or a negative firmware error code; 0 at once, with nothing checked or sent, on KestrelRelay, KestrelDio, PloverSink and Trellis (wired pins)
+            int: as for DO_closePort; after reading the pin modes (Sys_getPinModeInPort), DOPortNotAvaliableError for a pin in a mode other than Idle or DO
         
         Raises, before anything is sent:
             InputTypeNotCorrectError: port is not an int.
-            DOPortNotAvaliableError: port is not a key of do_dict, or a pin of it is in a mode other than Idle or DO.
+            DOPortNotAvaliableError: port is not a key of do_dict.
         """
     def DO_togglePins(self, port: int, pin: int | collections.abc.Sequence[int], timeout: float = 3) -> list[int]:
         """
@@ -2421,7 +2435,7 @@ class DIOModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: port is not an int.
             DOPortNotAvaliableError: port is not a key of do_dict.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DO_togglePins_async(self, port: int, pin: int | collections.abc.Sequence[int]) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
         """
@@ -2452,7 +2466,7 @@ class DIOModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: port is not an int.
             DOPortNotAvaliableError: port is not a key of do_dict.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DO_togglePort_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
         """
@@ -2482,12 +2496,13 @@ class DIOModule:
             int: always 0
         
         Raises, before anything is sent:
-            InputTypeNotCorrectError: port is not an int, or pin or value neither an int nor a list.
+            TypeError: pin is neither an int nor a list.
+            InputTypeNotCorrectError: port is not an int, or value neither an int nor a list.
             DOPortNotAvaliableError: port is not a key of do_dict.
             PinsNotExistError: a pin that is not in do_dict[port].
             InputTypeNotConsistentError: pin and value of different types.
             PinsValueNotDefineError: fewer values than pins.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DO_writePins_async(self, port: int, pin: int | collections.abc.Sequence[int], value: int | collections.abc.Sequence[int]) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2502,7 +2517,8 @@ class DIOModule:
             int: always 0
         
         Raises, before anything is sent:
-            InputTypeNotCorrectError: port is not an int, or pin or value neither an int nor a list.
+            TypeError: pin is neither an int nor a list.
+            InputTypeNotCorrectError: port is not an int, or value neither an int nor a list.
             DOPortNotAvaliableError: port is not a key of do_dict.
             PinsNotExistError: a pin that is not in do_dict[port].
             InputTypeNotConsistentError: pin and value of different types.
@@ -2523,7 +2539,7 @@ class DIOModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: port is not an int, or value neither an int nor a list.
             DOPortNotAvaliableError: port is not a key of do_dict.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DO_writePort_async(self, port: int, value: int | collections.abc.Sequence[int]) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2561,7 +2577,7 @@ class DIOModule:
             int: 0, or a negative firmware error code
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _closeDIOInPins_async(self, port: int, pin: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2586,7 +2602,7 @@ class DIOModule:
             int: 0, or a negative firmware error code
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _closeDIOInPort_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2611,7 +2627,7 @@ class DIOModule:
             tuple[list[int], list[int], list[int]]: enabled, direction, state
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _getDIOCurrent_async(self, port: int, mask: int) -> collections.abc.Coroutine[typing.Any, typing.Any, tuple[list[int], list[int], list[int]]]:
         """
@@ -2637,7 +2653,7 @@ class DIOModule:
             list[int]: one 0 or 1 per pin, dio_num_pins_per_port entries, pin 0 first
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _getDIOState_async(self, port: int, mask: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
         """
@@ -2667,7 +2683,7 @@ class DIOModule:
             list[int]: one 0 or 1 per pin, dio_num_pins_per_port entries, pin 0 first
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _readAndGetDI_async(self, port: int, mask: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
         """
@@ -2692,7 +2708,7 @@ class DIOModule:
             int: 0, or a negative firmware error code
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _readDI_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2718,7 +2734,7 @@ class DIOModule:
             list[int]: one 0 or 1 per pin, dio_num_pins_per_port entries, pin 0 first
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _setAndWriteDO_async(self, port: int, mask: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
         """
@@ -2748,7 +2764,7 @@ class DIOModule:
             int: 0, or a negative firmware error code
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _setDIOCurrent_async(self, port: int, mask: int, enabled: int, direction: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2778,7 +2794,7 @@ class DIOModule:
             int: 0, or a negative firmware error code
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _setDIOState_async(self, port: int, mask: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2805,7 +2821,7 @@ class DIOModule:
             list[int]: one 0 or 1 per pin, dio_num_pins_per_port entries, pin 0 first
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _toggleAndWriteDO_async(self, port: int, mask: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
         """
@@ -2832,7 +2848,7 @@ class DIOModule:
             int: 0, or a negative firmware error code
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _toggleDIODirection_async(self, port: int, mask: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2858,7 +2874,7 @@ class DIOModule:
             int: 0, or a negative firmware error code
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _writeDO_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2888,7 +2904,7 @@ class DPOTModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: port is not an int.
             DPOTPortNotAvaliableError: port is not 0.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DPOT_close_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2918,7 +2934,7 @@ class DPOTModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: port is not an int.
             DPOTPortNotAvaliableError: port is not 0.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DPOT_open_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2949,7 +2965,7 @@ class DPOTModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: port is not an int.
             DPOTPortNotAvaliableError: port is not 0.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DPOT_readByChannel_async(self, port: int, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -2982,7 +2998,7 @@ class DPOTModule:
             InputTypeNotCorrectError: port is not an int, or resistance_ratio not a list.
             DPOTPortNotAvaliableError: port is not 0.
             DPOTChannelNotAvaliableError: resistance_ratio does not hold exactly 4 values.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def DPOT_writeAllChannel_async(self, port: int, resistance_ratio: collections.abc.Sequence[float]) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3019,7 +3035,7 @@ class NetworkModule:
             str: "a.b.c.d"; also kept in gateway
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Net_getGateway_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, str]:
         """
@@ -3039,7 +3055,7 @@ class NetworkModule:
             list[str]: [ip_addr, subnet_mask], each "a.b.c.d"; also kept in ip_addr, subnet_mask
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Net_getIPAddrAndSubmask_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, list[str]]:
         """
@@ -3059,7 +3075,7 @@ class NetworkModule:
             str: six hex numbers without leading zeros, "a:b:c:d:e:f"; also kept in mac_addr
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Net_getMACAddr_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, str]:
         """
@@ -3083,7 +3099,7 @@ class NetworkModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: an address that is not a str.
             OSError: an address that is not dotted IPv4.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Net_setIPAddrAndSubmask_async(self, ip_addr: str, subnet_mask: str) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3111,7 +3127,7 @@ class NetworkModule:
             str: "a.b.c.d"; also kept in gateway
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_getGateway_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, str]:
         """
@@ -3131,7 +3147,7 @@ class NetworkModule:
             list[str]: [ip_addr, subnet_mask], each "a.b.c.d"; also kept in ip_addr, subnet_mask
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_getIPAddrAndSubmask_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, list[str]]:
         """
@@ -3151,7 +3167,7 @@ class NetworkModule:
             str: six hex numbers without leading zeros, "a:b:c:d:e:f"; also kept in mac_addr
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_getMACAddr_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, str]:
         """
@@ -3175,7 +3191,7 @@ class NetworkModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: an address that is not a str.
             OSError: an address that is not dotted IPv4.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_setIPAddrAndSubmask_async(self, ip_addr: str, subnet_mask: str) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3205,7 +3221,7 @@ class NetworkModule:
         
         Raises, before anything is sent:
             InputTypeNotCorrectError: gateway is not a str.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _setGateway_async(self, gateway: str) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3233,7 +3249,7 @@ class NetworkModule:
         
         Raises, before anything is sent:
             InputTypeNotCorrectError: mac_addr is not a str.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _setMACAddr_async(self, mac_addr: str) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3277,7 +3293,7 @@ class PWMModule:
         
         Raises, before anything is sent:
             CounterChannelNotAvaliableError: channel is not 0 or 1.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def PWM_close_async(self, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3305,7 +3321,7 @@ class PWMModule:
         
         Raises, before anything is sent:
             CounterChannelNotAvaliableError: channel is not 0 or 1.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def PWM_open_async(self, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3326,7 +3342,7 @@ class PWMModule:
         
         Args:
             channel (int): 0 or 1
-            duty_cycle (float): as the firmware takes it (e.g. percent), sent as a 32-bit float; no range on the host
+            duty_cycle (float): sent as a 32-bit float; its unit and range are the firmware's
             timeout (float): seconds to wait for each reply, above 0 (default 3)
         
         Returns:
@@ -3335,7 +3351,7 @@ class PWMModule:
         Raises, before anything is sent:
             CounterChannelNotAvaliableError: channel is not 0 or 1.
             TypeError: duty_cycle is not a number.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def PWM_setDutyCycle_async(self, channel: int, duty_cycle: float) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3343,7 +3359,7 @@ class PWMModule:
         
         Args:
             channel (int): 0 or 1
-            duty_cycle (float): as the firmware takes it (e.g. percent), sent as a 32-bit float; no range on the host
+            duty_cycle (float): sent as a 32-bit float; its unit and range are the firmware's
         
         Returns:
             int: 0, or a negative firmware error code
@@ -3358,7 +3374,7 @@ class PWMModule:
         
         Args:
             channel (int): 0 or 1
-            frequency (float): Hz, sent as a 32-bit float; no range on the host
+            frequency (float): sent as a 32-bit float; its unit and range are the firmware's
             timeout (float): seconds to wait for each reply, above 0 (default 3)
         
         Returns:
@@ -3367,7 +3383,7 @@ class PWMModule:
         Raises, before anything is sent:
             CounterChannelNotAvaliableError: channel is not 0 or 1.
             TypeError: frequency is not a number.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def PWM_setFrequency_async(self, channel: int, frequency: float) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3375,7 +3391,7 @@ class PWMModule:
         
         Args:
             channel (int): 0 or 1
-            frequency (float): Hz, sent as a 32-bit float; no range on the host
+            frequency (float): sent as a 32-bit float; its unit and range are the firmware's
         
         Returns:
             int: 0, or a negative firmware error code
@@ -3397,7 +3413,7 @@ class PWMModule:
         
         Raises, before anything is sent:
             CounterChannelNotAvaliableError: channel is not 0 or 1.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def PWM_start_async(self, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3425,7 +3441,7 @@ class PWMModule:
         
         Raises, before anything is sent:
             CounterChannelNotAvaliableError: channel is not 0 or 1.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def PWM_stop_async(self, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3457,7 +3473,7 @@ class RelayModule:
             int: 0 on KestrelRelay, -1 on any other class; nothing is sent
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Relay_close_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3477,7 +3493,7 @@ class RelayModule:
             int: 0 on KestrelRelay, -1 on any other class; nothing is sent
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Relay_open_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3500,7 +3516,7 @@ class RelayModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: index is not an int.
             RelayCounterIndexError: index is not in -1..5.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Relay_read_async(self, index: int = -1) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
         """
@@ -3533,7 +3549,7 @@ class SystemAnalogModule:
             list[int]: x, y, z as raw 16-bit words
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Wifi_readAccleration_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
         """
@@ -3553,7 +3569,7 @@ class SystemAnalogModule:
             int: the raw 16-bit battery word; also kept in battery
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Wifi_readBattery_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3573,7 +3589,7 @@ class SystemAnalogModule:
             float: the signed 16-bit reading divided by 128; also kept in thermo
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Wifi_readThermo_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, float]:
         """
@@ -3593,7 +3609,7 @@ class SystemAnalogModule:
             int: 0, or a negative firmware error code
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _Wifi_resetAIBuffer_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3623,7 +3639,7 @@ class SystemModule:
             list[str]: the driver text split at each "_"; also kept in driver_info
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_getDriverInfo_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, list[str]]:
         """
@@ -3646,7 +3662,7 @@ class SystemModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: slot is not an int.
             TrellisPortNotAvaliableError: slot is not 1, 2 or 4.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_getMode_async(self, slot: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[str]]:
         """
@@ -3675,7 +3691,7 @@ class SystemModule:
         
         Raises, before anything is sent:
             InputTypeNotCorrectError: port is not an int.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_getPinModeInPort_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[str]]:
         """
@@ -3701,7 +3717,7 @@ class SystemModule:
             str: pyorv.__version__
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_getPythonVersion_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, str]:
         """
@@ -3721,7 +3737,7 @@ class SystemModule:
             str: "YYYY-MM-DD, hh:mm:ss"; also kept in rtc_time
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_getRTC_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, str]:
         """
@@ -3741,7 +3757,7 @@ class SystemModule:
             str: the serial number (8 characters); also kept in serial_number
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_getSerialNumber_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, str]:
         """
@@ -3761,7 +3777,7 @@ class SystemModule:
             int: 0, or a negative firmware error code
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_rebootOnBootloader(self, timeout: float = 3) -> int:
         """
@@ -3774,7 +3790,7 @@ class SystemModule:
             int: 0, or a negative firmware error code
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_rebootOnBootloader_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3804,7 +3820,7 @@ class SystemModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: slot is not an int.
             TrellisPortNotAvaliableError: slot is not 1, 2 or 4.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_setAIOMode_async(self, slot: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3834,7 +3850,7 @@ class SystemModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: slot is not an int.
             TrellisPortNotAvaliableError: slot is not 1, 2 or 4.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_setDIMode_async(self, slot: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3864,7 +3880,7 @@ class SystemModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: slot is not an int.
             TrellisPortNotAvaliableError: slot is not 1, 2 or 4.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_setDIOMode_async(self, slot: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3894,7 +3910,7 @@ class SystemModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: slot is not an int.
             TrellisPortNotAvaliableError: slot is not 1, 2 or 4.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_setDOMode_async(self, slot: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3924,7 +3940,7 @@ class SystemModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: slot is not an int.
             TrellisPortNotAvaliableError: slot is not 1, 2 or 4.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_setIdleMode_async(self, slot: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3954,7 +3970,7 @@ class SystemModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: slot is not an int.
             TrellisPortNotAvaliableError: slot is not 1, 2 or 4.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_setMotionMode_async(self, slot: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -3988,7 +4004,7 @@ class SystemModule:
         
         Raises, before anything is sent:
             InputTypeNotCorrectError: an argument that is not an int.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_setRTC_async(self, year: int, month: int, day: int, hour: int, minute: int, second: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -4022,7 +4038,7 @@ class SystemModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: slot is not an int.
             TrellisPortNotAvaliableError: slot is not 1, 2 or 4.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Sys_setSwitchMode_async(self, slot: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -4053,7 +4069,7 @@ class SystemModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: slot is not an int.
             TrellisPortNotAvaliableError: slot is not 1, 2 or 4.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _Sys_setSlotMode_async(self, slot: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -4084,7 +4100,7 @@ class SystemModule:
             str: the driver text
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _getDriverInfo_dev_async(self, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, str]:
         """
@@ -4108,7 +4124,7 @@ class SystemModule:
             list[int]: bytes
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _getEEPROMDevice_async(self, device_number: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
         """
@@ -4132,7 +4148,7 @@ class SystemModule:
             list[int]: bytes
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _getEEPROMPage_async(self, page_number: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
         """
@@ -4155,7 +4171,7 @@ class SystemModule:
             str: the report
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _getThreads_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, str]:
         """
@@ -4175,7 +4191,7 @@ class SystemModule:
             int: 0, or a negative firmware error code
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _resetFactory_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -4198,7 +4214,7 @@ class SystemModule:
             int: 0, or a negative firmware error code
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _setEEPROMByte_async(self, page_number: int, byte_index: int, value: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -4225,7 +4241,7 @@ class SystemModule:
             int: 0, or a negative firmware error code
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _setEEPROMPage_async(self, page_number: int, int_list: collections.abc.Sequence[int]) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -4250,7 +4266,7 @@ class SystemModule:
             int: 0, or a negative firmware error code
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _setSerialNumber_async(self, serial_num: str) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -4295,7 +4311,7 @@ class WifiModule:
             int: 0 or 1
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Wifi_getChargeStatus_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -4315,7 +4331,7 @@ class WifiModule:
             int: 0 or 1
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Wifi_getPowerGoodStatus_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -4335,7 +4351,7 @@ class WifiModule:
             int: the firmware's bandwidth number, 0..255; also kept in bandwidth
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Wifi_getWifiBandWidth_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -4355,7 +4371,7 @@ class WifiModule:
             list[int]: [retry_wifi_times, ap_time], 16-bit each
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Wifi_getWifiConfiguration_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
         """
@@ -4375,7 +4391,7 @@ class WifiModule:
             int: the reading less 256, -256..-1; also kept in rssi
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Wifi_readRSSI_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -4395,7 +4411,7 @@ class WifiModule:
             int: always 0 (the reply is not read)
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Wifi_resetLED_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -4415,7 +4431,7 @@ class WifiModule:
             int: 0, or a negative firmware error code
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Wifi_setAP_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -4437,7 +4453,7 @@ class WifiModule:
         
         Raises, before anything is sent:
             InputTypeNotCorrectError: bandwidth is not an int.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Wifi_setBandwidth_async(self, bandwidth: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -4464,7 +4480,7 @@ class WifiModule:
             int: always 0 (the reply is not read)
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Wifi_setBlueLED_async(self, value: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -4488,7 +4504,7 @@ class WifiModule:
             int: always 0 (the reply is not read)
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Wifi_setGreenLED_async(self, value: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -4512,7 +4528,7 @@ class WifiModule:
             int: always 0 (the reply is not read)
         
         Raises, before anything is sent:
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def Wifi_setRedLED_async(self, value: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """
@@ -4538,7 +4554,7 @@ class WifiModule:
         
         Raises, before anything is sent:
             InputTypeNotCorrectError: an argument that is not an int.
-            InputDataNotInRangeError: a timeout of 0, below 0 or NaN.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
         """
     def _setWifiConfiguration_async(self, retry_wifi_times: int, ap_time: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
         """

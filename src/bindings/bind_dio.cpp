@@ -30,9 +30,11 @@ constexpr const char* kDOPortRefused =
 constexpr const char* kDIPinsRefused =
     "InputTypeNotCorrectError: port is not an int, or pin neither an int nor a list.\n"
     "DIPortNotAvaliableError: port is not a key of di_dict.\n"
-    "PinsNotExistError: a pin that is not in di_dict[port].";
+    "PinsNotExistError: a pin that is not in di_dict[port].\n"
+    "TypeError: pin given as an int (input pins take a list only).";
 constexpr const char* kDOPinsRefused =
-    "InputTypeNotCorrectError: port is not an int, or pin neither an int nor a list.\n"
+    "TypeError: pin is neither an int nor a list.\n"
+    "InputTypeNotCorrectError: port is not an int.\n"
     "DOPortNotAvaliableError: port is not a key of do_dict.\n"
     "PinsNotExistError: a pin that is not in do_dict[port].";
 void bindDIO(py::module_& m) {
@@ -71,21 +73,25 @@ void bindDIO(py::module_& m) {
   const Result opened{kInt,
                       "0, or a negative firmware error code; 0 at once, with nothing checked or "
                       "sent, on KestrelRelay, KestrelDio, PloverSink and Trellis (wired pins)"};
+  // Opening reads the pin modes first, and refuses a pin in another mode after that read.
+  const Result opened_di{kInt,
+                         "as for DI_closePort; after reading the pin modes (Sys_getPinModeInPort), "
+                         "DIPortNotAvaliableError for a pin in a mode other than Idle or DI"};
+  const Result opened_do{kInt,
+                         "as for DO_closePort; after reading the pin modes (Sys_getPinModeInPort), "
+                         "DOPortNotAvaliableError for a pin in a mode other than Idle or DO"};
   defTwin(cls, &D::DI_openPort,
           {"DI_openPort",
            "Opens every pin of an input port as an input.",
            {kDIPort},
-           opened,
-           "InputTypeNotCorrectError: port is not an int.\n"
-           "DIPortNotAvaliableError: port is not a key of di_dict, or a pin of it is in a mode "
-           "other than Idle or DI."});
+           opened_di,
+           kDIPortRefused});
   defTwin(cls, &D::DI_openPins,
           {"DI_openPins",
            "Opens pins of an input port as inputs.",
            {kDIPort, kDIPins},
-           opened,
-           "InputTypeNotCorrectError, DIPortNotAvaliableError, PinsNotExistError as for the port "
-           "and pins;\nDIPortNotAvaliableError: a named pin in a mode other than Idle or DI."});
+           opened_di,
+           kDIPinsRefused});
   defTwin(
       cls, &D::DI_closePort,
       {"DI_closePort", "Closes every pin of an input port.", {kDIPort}, opened, kDIPortRefused});
@@ -99,17 +105,14 @@ void bindDIO(py::module_& m) {
           {"DO_openPort",
            "Opens every pin of an output port as an output.",
            {kDOPort},
-           opened,
-           "InputTypeNotCorrectError: port is not an int.\n"
-           "DOPortNotAvaliableError: port is not a key of do_dict, or a pin of it is in a mode "
-           "other than Idle or DO."});
+           opened_do,
+           kDOPortRefused});
   defTwin(cls, &D::DO_openPins,
           {"DO_openPins",
            "Opens pins of an output port as outputs.",
            {kDOPort, kDOPins},
-           opened,
-           "InputTypeNotCorrectError, DOPortNotAvaliableError, PinsNotExistError as for the port "
-           "and pins;\nDOPortNotAvaliableError: a named pin in a mode other than Idle or DO."});
+           opened_do,
+           kDOPinsRefused});
   defTwin(
       cls, &D::DO_closePort,
       {"DO_closePort", "Closes every pin of an output port.", {kDOPort}, opened, kDOPortRefused});
@@ -152,8 +155,8 @@ void bindDIO(py::module_& m) {
              "of pin's type: a list of 0 and 1, one per pin of a pin list (extra values are "
              "ignored), or a word whose bits under the pin mask are written"}},
            {kInt, "always 0"},
-           "InputTypeNotCorrectError: port is not an int, or pin or value neither an int nor a "
-           "list.\n"
+           "TypeError: pin is neither an int nor a list.\n"
+           "InputTypeNotCorrectError: port is not an int, or value neither an int nor a list.\n"
            "DOPortNotAvaliableError: port is not a key of do_dict.\n"
            "PinsNotExistError: a pin that is not in do_dict[port].\n"
            "InputTypeNotConsistentError: pin and value of different types.\n"

@@ -30,20 +30,20 @@ void bindPWM(py::module_& m) {
   defTwin(pwm, &P::PWM_setFrequency,
           {"PWM_setFrequency",
            "Sets a PWM channel's frequency.",
-           {kChannel, {"frequency", kFloat, "Hz, sent as a 32-bit float; no range on the host"}},
+           {kChannel,
+            {"frequency", kFloat, "sent as a 32-bit float; its unit and range are the firmware's"}},
            status,
            "CounterChannelNotAvaliableError: channel is not 0 or 1.\n"
            "TypeError: frequency is not a number."});
-  defTwin(pwm, &P::PWM_setDutyCycle,
-          {"PWM_setDutyCycle",
-           "Sets a PWM channel's duty cycle.",
-           {kChannel,
-            {"duty_cycle", kFloat,
-             "as the firmware takes it (e.g. percent), sent as a 32-bit float; no range on the "
-             "host"}},
-           status,
-           "CounterChannelNotAvaliableError: channel is not 0 or 1.\n"
-           "TypeError: duty_cycle is not a number."});
+  defTwin(
+      pwm, &P::PWM_setDutyCycle,
+      {"PWM_setDutyCycle",
+       "Sets a PWM channel's duty cycle.",
+       {kChannel,
+        {"duty_cycle", kFloat, "sent as a 32-bit float; its unit and range are the firmware's"}},
+       status,
+       "CounterChannelNotAvaliableError: channel is not 0 or 1.\n"
+       "TypeError: duty_cycle is not a number."});
   pwm.def(
       "_checkPWMChannel", [](P&, const Value& ch) { return P::_checkPWMChannel(ch); },
       py::arg("channel"));

@@ -141,7 +141,10 @@ inline std::string docBody(const Op& row, bool with_timeout) {
   if (row.raises || with_timeout) {
     d += "\nRaises, before anything is sent:\n";
     if (row.raises) indentLines(d, row.raises);
-    if (with_timeout) indentLines(d, "InputDataNotInRangeError: a timeout of 0, below 0 or NaN.");
+    if (with_timeout)
+      indentLines(d,
+                  "InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a "
+                  "packet to send.");
   }
   return d;
 }
