@@ -4853,15 +4853,15 @@ def _modelTable() -> dict:
     ...
 def _shutdown() -> None:
     ...
-def adjustDataList(data_list: typing.Any, list_length: typing.Any = 8, padding_num: typing.Any = 0) -> typing.Any:
+def adjustDataList(data_list: collections.abc.Sequence[typing.Any], list_length: int = 8, padding_num: typing.Any = 0) -> list[typing.Any]:
     """
     Exactly list_length items: cut, or padded on the right with padding_num.
     """
-def changeToTrellisPort(slot: typing.Any) -> typing.Any:
+def changeToTrellisPort(slot: int) -> int:
     """
     The firmware's port of a Trellis slot.
     """
-def checkEachItemInRange(int_list: typing.Any, low: typing.Any = 0, high: typing.Any = 255, msg: typing.Any = None) -> None:
+def checkEachItemInRange(int_list: collections.abc.Sequence[float], low: float = 0, high: float = 255, msg: str | None = None) -> None:
     """
     Raises InputDataNotInRangeError (with msg) at the first item outside low..high.
     """
@@ -4869,11 +4869,11 @@ def checkFirmwareError(arg0: typing.Any) -> int:
     """
     Raises the error of a firmware status byte; 0 for status 0.
     """
-def checkFuncPinMap(cell: typing.Any, pinmap_list: typing.Any, allow_state_list: typing.Any) -> bool:
+def checkFuncPinMap(cell: collections.abc.Sequence[int], pinmap_list: collections.abc.Sequence[typing.Any], allow_state_list: collections.abc.Sequence[typing.Any]) -> bool:
     """
     Whether pinmap_list[pin] of cell (port, pin) is among allow_state_list.
     """
-def checkInputType(data: typing.Any, correct_type: typing.Any = ...) -> None:
+def checkInputType(data: typing.Any, correct_type: type | tuple[type, ...] = ...) -> None:
     """
     Raises InputTypeNotCorrectError unless data is of correct_type (a type or a tuple of them).
     """
@@ -4881,115 +4881,115 @@ def checkInputTypeConsistent(data: typing.Any, data2: typing.Any) -> None:
     """
     Raises InputTypeNotConsistentError unless data and data2 have the same type.
     """
-def checkPinMap(cell_list: typing.Any, pinmap_list: typing.Any, allow_state_list: typing.Any) -> bool:
+def checkPinMap(cell_list: collections.abc.Sequence[collections.abc.Sequence[int]], pinmap_list: collections.abc.Sequence[typing.Any], allow_state_list: collections.abc.Sequence[typing.Any]) -> bool:
     """
     Whether every cell passes checkFuncPinMap.
     """
-def clearBit(number: typing.Any, index: typing.Any) -> int:
+def clearBit(number: int, index: int) -> int:
     """
     The number with bit index set to 0.
     """
-def coerce(list_: typing.Any, lower: typing.Any = 0, upper: typing.Any = 1) -> typing.Any:
+def coerce(list_: collections.abc.Sequence[float], lower: float = 0, upper: float = 1) -> list[typing.Any]:
     """
     Each element clipped into lower..upper.
     """
-def convert2U8ToI16(int_list: typing.Any) -> int:
+def convert2U8ToI16(int_list: collections.abc.Sequence[int]) -> int:
     """
     The number in the bytes of int_list, high byte first (the name gives width and kind).
     """
-def convert2U8ToU16(int_list: typing.Any) -> int:
+def convert2U8ToU16(int_list: collections.abc.Sequence[int]) -> int:
     """
     The number in the bytes of int_list, high byte first (the name gives width and kind).
     """
-def convert4U8ToF32(int_list: typing.Any) -> float:
+def convert4U8ToF32(int_list: collections.abc.Sequence[int]) -> float:
     """
     The number in the bytes of int_list, high byte first (the name gives width and kind).
     """
-def convert4U8ToI32(int_list: typing.Any) -> int:
+def convert4U8ToI32(int_list: collections.abc.Sequence[int]) -> int:
     """
     The number in the bytes of int_list, high byte first (the name gives width and kind).
     """
-def convert4U8ToU32(int_list: typing.Any) -> int:
+def convert4U8ToU32(int_list: collections.abc.Sequence[int]) -> int:
     """
     The number in the bytes of int_list, high byte first (the name gives width and kind).
     """
-def convert8U8ToF64(int_list: typing.Any) -> float:
+def convert8U8ToF64(int_list: collections.abc.Sequence[int]) -> float:
     """
     The number in the bytes of int_list, high byte first (the name gives width and kind).
     """
-def convert8U8ToI64(int_list: typing.Any) -> int:
+def convert8U8ToI64(int_list: collections.abc.Sequence[int]) -> int:
     """
     The number in the bytes of int_list, high byte first (the name gives width and kind).
     """
-def convert8U8ToU64(int_list: typing.Any) -> int:
+def convert8U8ToU64(int_list: collections.abc.Sequence[int]) -> int:
     """
     The number in the bytes of int_list, high byte first (the name gives width and kind).
     """
-def convertF32To4U8(value: typing.Any) -> bytes:
+def convertF32To4U8(value: float) -> bytes:
     """
     A number as a 32-bit float, 4 bytes, high byte first.
     """
-def convertF64To8U8(value: typing.Any) -> bytes:
+def convertF64To8U8(value: float) -> bytes:
     """
     A number as a 64-bit float, 8 bytes, high byte first.
     """
-def convertI16To2U8(value: typing.Any) -> bytes:
+def convertI16To2U8(value: int) -> bytes:
     """
     The value as bytes, high byte first (the name gives width and kind).
     """
-def convertI32To4U8(value: typing.Any) -> bytes:
+def convertI32To4U8(value: int) -> bytes:
     """
     The value as bytes, high byte first (the name gives width and kind).
     """
-def convertI64To8U8(value: typing.Any) -> bytes:
+def convertI64To8U8(value: int) -> bytes:
     """
     The value as bytes, high byte first (the name gives width and kind).
     """
-def convertIPAddrTo4U8(value: typing.Any) -> bytes:
+def convertIPAddrTo4U8(value: str) -> bytes:
     """
     A dotted IPv4 address as 4 bytes.
     """
-def convertIndexAndBinaryListsToInt(index_list: typing.Any, binary_list: typing.Any) -> int:
+def convertIndexAndBinaryListsToInt(index_list: collections.abc.Sequence[int], binary_list: collections.abc.Sequence[int]) -> int:
     """
     The word with binary_list[i] at bit index_list[i].
     """
-def convertIndexListToInt(index_list: typing.Any) -> int:
+def convertIndexListToInt(index_list: collections.abc.Sequence[int]) -> int:
     """
     The mask with a bit set for each index.
     """
-def convertIntToBinaryList(value_int: typing.Any, width: typing.Any) -> list[int]:
+def convertIntToBinaryList(value_int: int, width: int) -> list[int]:
     """
     The low width bits of value_int as a list of 0 and 1, bit 0 first.
     """
-def convertIntToIndexList(value_int: typing.Any) -> list[int]:
+def convertIntToIndexList(value_int: int) -> list[int]:
     """
     The indices of the set bits of value_int, lowest first.
     """
-def convertMACAddrTo6U8(str_: typing.Any) -> list[int]:
+def convertMACAddrTo6U8(str_: str) -> list[int]:
     """
     "aa:bb:cc:dd:ee:ff" as a list of 6 bytes.
     """
-def convertStrToU8List(str_: typing.Any) -> list[int]:
+def convertStrToU8List(str_: str) -> list[int]:
     """
     Text as a list of its bytes.
     """
-def convertU16To2U8(value: typing.Any) -> bytes:
+def convertU16To2U8(value: int) -> bytes:
     """
     The value as bytes, high byte first (the name gives width and kind).
     """
-def convertU32To4U8(value: typing.Any) -> bytes:
+def convertU32To4U8(value: int) -> bytes:
     """
     The value as bytes, high byte first (the name gives width and kind).
     """
-def convertU64To8U8(value: typing.Any) -> bytes:
+def convertU64To8U8(value: int) -> bytes:
     """
     The value as bytes, high byte first (the name gives width and kind).
     """
-def convertU8ListToStr(int_list: typing.Any) -> str:
+def convertU8ListToStr(int_list: collections.abc.Sequence[int]) -> str:
     """
     Bytes (or a list of them) as text.
     """
-def fillBit(number: typing.Any, index: typing.Any) -> int:
+def fillBit(number: int, index: int) -> int:
     """
     The number with bit index set to 1.
     """
@@ -4997,11 +4997,11 @@ def printGenericError(arg0: typing.Any) -> None:
     """
     Prints "<ClassName>: <text>" of an error.
     """
-def readBit(number: typing.Any, index: typing.Any) -> int:
+def readBit(number: int, index: int) -> int:
     """
     Bit index of number, 0 or 1.
     """
-def writeBit(number: typing.Any, index: typing.Any, value: typing.Any) -> int:
+def writeBit(number: int, index: int, value: int) -> int:
     """
     The number with bit index set to value (0 or 1).
     """
