@@ -25,6 +25,12 @@
 // docstring line.  Keeping the row beside the binding (rather than in a
 // separate file) keeps the argument names, which the row also supplies to
 // pybind11, in the one place a reader of the binding looks.
+//
+// A trailing argument with a default value carries it in its row as a
+// Python literal, and the binding says how many there are:
+// defTwin<1>(relay, &RelayModule::Relay_read, {... {"index", kInt, "...", "-1"} ...}).
+// A row that does not fit its operation (argument count, defaults) fails the
+// import with a message naming the operation.
 #pragma once
 
 #include <pybind11/eval.h>
