@@ -7,6 +7,8 @@ import typing
 __all__: list[str] = ['Channel', 'Context', 'DeviceConfig', 'Faults', 'Link', 'Packet', 'Request', 'SimDevice', 'Simulator', 'numbered_config', 'registered_commands', 'start']
 class Link:
     """
+    How a simulated device is reached.
+    
     Members:
     
       Ethernet
@@ -55,6 +57,8 @@ class Link:
         ...
 class Channel:
     """
+    A link of a simulated device.
+    
     Members:
     
       Auto
@@ -105,6 +109,9 @@ class Channel:
     def value(self) -> int:
         ...
 class DeviceConfig:
+    """
+    What a simulated device is: model, link, serial, addresses (port 0: a free port).
+    """
     driver_info: str
     gateway: str
     host: str
@@ -136,6 +143,9 @@ class DeviceConfig:
     def link(self, arg1: typing.Any) -> None:
         ...
 class Faults:
+    """
+    Faults a simulated device injects into its answers.
+    """
     def clear(self) -> None:
         """
         back to a healthy device
@@ -197,6 +207,9 @@ class Faults:
     def split_pause_us(self, arg1: typing.SupportsInt | typing.SupportsIndex) -> None:
         ...
 class Packet:
+    """
+    A packet the simulated device received from the host.
+    """
     def __repr__(self) -> str:
         ...
     @property
@@ -217,6 +230,9 @@ class Packet:
         seconds on the clock of time.monotonic()
         """
 class Request:
+    """
+    The command a handler answers.
+    """
     @property
     def channel(self) -> Channel:
         ...
@@ -226,35 +242,36 @@ class Request:
     @property
     def data(self) -> bytes:
         ...
-class Context:
-    @typing.overload
-    def reply(self, data: typing.Any) -> None:
-        ...
-    @typing.overload
-    def reply(self, cmd: typing.SupportsInt | typing.SupportsIndex, data: typing.Any) -> None:
-        ...
-    def stream(self, cmd: typing.SupportsInt | typing.SupportsIndex, data: typing.Any) -> None:
-        ...
-    @property
-    def device(self) -> ...:
-        ...
 class SimDevice:
+    """
+    A running simulated device: its addresses, faults and packet record.
+    """
     def __repr__(self) -> str:
         ...
     def clear_packets(self) -> None:
-        ...
+        """
+        forgets the packets received so far
+        """
     def close_link(self) -> None:
-        ...
+        """
+        drops the host's connection, as a device that goes away
+        """
     def host_connected(self, channel: Channel = ...) -> bool:
-        ...
+        """
+        whether a host is connected on the channel
+        """
     def packet_count(self) -> int:
-        ...
+        """
+        how many packets were received
+        """
     def packets(self) -> list[Packet]:
         """
         every packet received from the host, in order
         """
     def send(self, cmd: typing.SupportsInt | typing.SupportsIndex, data: typing.Any = b'', channel: Channel = ...) -> bool:
-        ...
+        """
+        sends an unasked packet to the host
+        """
     def set_fallback_handler(self, handler: typing.Any) -> None:
         """
         handler(ctx, req) for commands nobody handles; None: silent
@@ -264,19 +281,29 @@ class SimDevice:
         handler(ctx, req) for one command of this device; None removes it
         """
     def state_get(self, key: str, default: typing.Any = None) -> typing.Any:
-        ...
+        """
+        a value of the device's key/value store (see the handler files)
+        """
     def state_set(self, key: str, value: typing.Any) -> None:
-        ...
+        """
+        sets a value of the device's key/value store
+        """
     def stop_streams(self) -> None:
-        ...
+        """
+        stops every stream
+        """
     def stream_records(self, cmd: typing.SupportsInt | typing.SupportsIndex, prefix: typing.Any = b'', count: typing.SupportsInt | typing.SupportsIndex = 1, interval_us: typing.SupportsInt | typing.SupportsIndex = 0, payload_len: typing.SupportsInt | typing.SupportsIndex = 16) -> int:
         """
         send count records (prefix + counter bytes) on the streaming link; blocks until done
         """
     def wait_for_host(self, channel: Channel = ..., timeout: typing.SupportsFloat | typing.SupportsIndex = 5.0) -> bool:
-        ...
+        """
+        waits until a host connects on the channel or timeout seconds passed; whether it did
+        """
     def wait_for_packets(self, n: typing.SupportsInt | typing.SupportsIndex, timeout: typing.SupportsFloat | typing.SupportsIndex = 5.0) -> bool:
-        ...
+        """
+        waits until n packets were received or timeout seconds passed; whether they were
+        """
     @property
     def cmd_port(self) -> int:
         ...
@@ -319,7 +346,31 @@ class SimDevice:
     @property
     def subnet_mask(self) -> str:
         ...
+class Context:
+    """
+    What a handler answers through.
+    """
+    @typing.overload
+    def reply(self, data: typing.Any) -> None:
+        """
+        Answers the request with these payload bytes.
+        """
+    @typing.overload
+    def reply(self, cmd: typing.SupportsInt | typing.SupportsIndex, data: typing.Any) -> None:
+        """
+        Answers with another command code.
+        """
+    def stream(self, cmd: typing.SupportsInt | typing.SupportsIndex, data: typing.Any) -> None:
+        """
+        Sends a record on the streaming link.
+        """
+    @property
+    def device(self) -> SimDevice:
+        ...
 class Simulator:
+    """
+    Simulated devices on loopback; a `with` block stops them.
+    """
     def __enter__(self) -> Simulator:
         ...
     def __exit__(self, *args) -> bool:
@@ -330,29 +381,45 @@ class Simulator:
         ...
     def add_device(self, config: DeviceConfig | None = None, **kwargs) -> SimDevice:
         """
-        add_device(DeviceConfig) or add_device(model=..., ...)
+        Adds and starts a device: add_device(DeviceConfig) or add_device(model=..., ...).
         """
     def devices(self) -> list[SimDevice]:
-        ...
+        """
+        the devices, in the order they were added
+        """
     def find_device(self, serial: str) -> SimDevice:
-        ...
+        """
+        the device with this serial, or None
+        """
     def remove_device(self, device: SimDevice) -> None:
-        ...
+        """
+        stops a device and removes it
+        """
     def start_discovery(self, host: str = '127.0.0.1', port: typing.SupportsInt | typing.SupportsIndex = 61557, reply_port: typing.SupportsInt | typing.SupportsIndex = 6667) -> int:
-        ...
+        """
+        answers discovery broadcasts on host:port, to reply_port
+        """
     def stop(self) -> None:
-        ...
+        """
+        stops every device and discovery
+        """
     def stop_discovery(self) -> None:
-        ...
+        """
+        stops answering broadcasts
+        """
     @property
     def discovery_port(self) -> int:
         ...
 def _stop_all() -> None:
     ...
 def numbered_config(model: str, link: Link, index: typing.SupportsInt | typing.SupportsIndex) -> DeviceConfig:
-    ...
+    """
+    the DeviceConfig of the index-th device (from 1) of a numbered set: serial SIM%05d, a MAC from the index
+    """
 def registered_commands() -> list[int]:
-    ...
+    """
+    the command codes the simulated firmware answers
+    """
 def start(models: typing.Any = 'Trellis', link: typing.Any = 'eth', discovery: bool = False, host: str = '127.0.0.1') -> Simulator:
     """
     a started Simulator with one device per model (serials SIM00001, ...)

@@ -111,9 +111,20 @@ void warnUnclosed(const Device& d) {
 
 // ---- binding -----------------------------------------------------------------
 
+constexpr const char* kDisconnectDoc = "Closes the links; the object can connect again.";
+constexpr const char* kCloseDoc =
+    "Closes the links and ends the receive threads; calls pending on the device end with "
+    "DeviceClosedError.";
+
+// `with Model() as dev:` gives the model's own type to a type checker.
+const char* enterDoc() {
+  return "__enter__(self) -> typing.Self\n\nThe device itself; the block's end closes it.";
+}
+
 void bindLink(py::module_& m) {
   // Transports.
-  py::class_<Client, std::shared_ptr<Client>>(m, "Client")
+  py::class_<Client, std::shared_ptr<Client>>(
+      m, "Client", "A transport: bytes to and from one device link, split into packets.")
       .def_property_readonly("stream", [](Client& c) { return toPy(c.splitter().stream()); })
       .def_property_readonly("last_index", [](Client& c) { return c.splitter().lastIndex(); })
       .def(
@@ -126,76 +137,101 @@ void bindLink(py::module_& m) {
             return out;
           },
           py::arg("data") = Bytes{})
-      .def("recvAndSplitPacket",
-           [](Client& c, size_t length) {
-             std::vector<RawPacket> pk;
-             {
-               py::gil_scoped_release r;
-               pk = c.recvAndSplitPacket(length);
-             }
-             py::list out;
-             for (auto& p : pk) {
-               py::list pair;
-               pair.append(p.cmd);
-               pair.append(toPy(p.data));
-               out.append(pair);
-             }
-             return out;
-           })
-      .def("recvPacket",
-           [](Client& c, size_t length) {
-             Bytes b;
-             {
-               py::gil_scoped_release r;
-               b = c.recvPacket(length);
-             }
-             return toPy(b);
-           })
-      .def("sendPacket", [](Client& c, const Value& packet) {
-        Bytes b = packet.toBytes();
-        py::gil_scoped_release r;
-        c.sendPacket(b);
-      });
-  py::class_<NetworkClient, Client, std::shared_ptr<NetworkClient>>(m, "NetworkClient")
+      .def(
+          "recvAndSplitPacket",
+          [](Client& c, size_t length) {
+            std::vector<RawPacket> pk;
+            {
+              py::gil_scoped_release r;
+              pk = c.recvAndSplitPacket(length);
+            }
+            py::list out;
+            for (auto& p : pk) {
+              py::list pair;
+              pair.append(p.cmd);
+              pair.append(toPy(p.data));
+              out.append(pair);
+            }
+            return out;
+          },
+          "Receives up to length bytes and returns the complete packets, [cmd, data] each.")
+      .def(
+          "recvPacket",
+          [](Client& c, size_t length) {
+            Bytes b;
+            {
+              py::gil_scoped_release r;
+              b = c.recvPacket(length);
+            }
+            return toPy(b);
+          },
+          "Receives up to length bytes as they come.")
+      .def(
+          "sendPacket",
+          [](Client& c, const Value& packet) {
+            Bytes b = packet.toBytes();
+            py::gil_scoped_release r;
+            c.sendPacket(b);
+          },
+          "Sends the bytes of a whole packet.");
+  py::class_<NetworkClient, Client, std::shared_ptr<NetworkClient>>(m, "NetworkClient",
+                                                                    "A socket transport.")
       .def_property_readonly("socket", [](NetworkClient& c) { return c.hasSocket() ? c.fd() : 0; })
-      .def("disconnect", &NetworkClient::disconnect, py::call_guard<py::gil_scoped_release>())
-      .def("setTimeout", &NetworkClient::setTimeout, py::arg("timeout") = py::none());
-  py::class_<TCPClient, NetworkClient, std::shared_ptr<TCPClient>>(m, "TCPClient")
+      .def("disconnect", &NetworkClient::disconnect, py::call_guard<py::gil_scoped_release>(),
+           "Closes the socket.")
+      .def("setTimeout", &NetworkClient::setTimeout, py::arg("timeout") = py::none(),
+           "Sets the socket's receive timeout in seconds; None waits without end.");
+  py::class_<TCPClient, NetworkClient, std::shared_ptr<TCPClient>>(m, "TCPClient",
+                                                                   "A TCP transport.")
       .def(py::init<>())
       .def("connect", &TCPClient::connect, py::arg("ip_addr"), py::arg("port"),
-           py::call_guard<py::gil_scoped_release>());
-  py::class_<UDPClient, NetworkClient, std::shared_ptr<UDPClient>>(m, "UDPClient")
+           py::call_guard<py::gil_scoped_release>(), "Connects to a device's TCP port.");
+  py::class_<UDPClient, NetworkClient, std::shared_ptr<UDPClient>>(m, "UDPClient",
+                                                                   "A UDP transport for discovery.")
       .def(py::init<>())
       .def("bind", &UDPClient::bind, py::arg("ip_addr"), py::arg("port"),
-           py::call_guard<py::gil_scoped_release>())
-      .def("sendBcstPacket",
-           [](UDPClient& c, const Value& packet) {
-             Bytes b = packet.toBytes();
-             py::gil_scoped_release r;
-             c.sendBcstPacket(b);
-           })
+           py::call_guard<py::gil_scoped_release>(),
+           "Binds the receiving socket (an empty ip_addr: every interface).")
+      .def(
+          "sendBcstPacket",
+          [](UDPClient& c, const Value& packet) {
+            Bytes b = packet.toBytes();
+            py::gil_scoped_release r;
+            c.sendBcstPacket(b);
+          },
+          "Broadcasts a packet to the broadcast target from each local IPv4 address.")
       .def("setBroadcastTarget", &UDPClient::setBroadcastTarget, py::arg("host"),
-           py::arg("port") = UDP_SEND_PORT)
+           py::arg("port") = UDP_SEND_PORT,
+           "Points the broadcasts at host:port (a loopback host sends from 127.0.0.1 only).")
       .def_property_readonly("broadcast_target", &UDPClient::broadcastTarget);
-  py::class_<USBClient, Client, std::shared_ptr<USBClient>>(m, "USBClient")
+  py::class_<USBClient, Client, std::shared_ptr<USBClient>>(m, "USBClient", "A USB transport.")
       .def(py::init<const std::string&>(), py::arg("serial_num") = "default",
            py::call_guard<py::gil_scoped_release>())
-      .def("takeSerialNumber", &USBClient::takeSerialNumber)
-      .def("takeProductName", &USBClient::takeProductName);
+      .def("takeSerialNumber", &USBClient::takeSerialNumber, "The device's serial number.")
+      .def("takeProductName", &USBClient::takeProductName, "The device's product name.");
 
   // A stream queue of data_pool_strm.
-  py::class_<StreamQueue, std::shared_ptr<StreamQueue>>(m, "StreamQueue")
-      .def("qsize", &StreamQueue::size)
-      .def("empty", [](StreamQueue& q) { return q.size() == 0; })
-      .def("put", [](StreamQueue& q, const Value& item) { q.push(item.toBytes()); })
-      .def("get_nowait", [](StreamQueue& q) {
-        auto item = q.tryPop();
-        if (!item) throw py::index_error("the stream queue is empty");
-        return toPy(*item);
-      });
+  py::class_<StreamQueue, std::shared_ptr<StreamQueue>>(m, "StreamQueue",
+                                                        "The records of one stream, oldest first.")
+      .def("qsize", &StreamQueue::size, "How many records wait.")
+      .def(
+          "empty", [](StreamQueue& q) { return q.size() == 0; }, "Whether no record waits.")
+      .def(
+          "put", [](StreamQueue& q, const Value& item) { q.push(item.toBytes()); },
+          "Adds a record.")
+      .def(
+          "get_nowait",
+          [](StreamQueue& q) {
+            auto item = q.tryPop();
+            if (!item) throw py::index_error("the stream queue is empty");
+            return toPy(*item);
+          },
+          "Takes the oldest record; IndexError when none waits.");
 
   // Devices.
-  auto dev = py::class_<Device, std::shared_ptr<Device>>(m, "Device");
+  auto dev = py::class_<Device, std::shared_ptr<Device>>(
+      m, "Device",
+      "One device: its links, receive threads and reply pools. A `with` block closes it.");
   dev.def_property_readonly("killed", &Device::killed)
       .def("_getDeviceName", &Device::deviceName)
       .def_property_readonly("data_pool_echo",
@@ -238,7 +274,6 @@ void bindLink(py::module_& m) {
           },
           py::arg("cmd"), py::arg("data_out") = Value::list({}))
       .def("_aliveThreads", &Device::aliveThreads)
-      .def("__enter__", [](py::object self) { return self; })
       .def("__exit__",
            [](Device& d, py::args) {
              py::gil_scoped_release r;
@@ -355,49 +390,65 @@ void bindLink(py::module_& m) {
           },
           py::arg("queue_"), py::arg("num_samples"), py::arg("delay"));
 
-  bindDeviceClass<USBDevice, Device>(m, "USBDevice")
+  {
+    py::options opts;  // the signature line comes from the docstring
+    opts.disable_function_signatures();
+    dev.def(
+        "__enter__", [](py::object self) { return self; }, enterDoc());
+  }
+
+  bindDeviceClass<USBDevice, Device>(m, "USBDevice", "A device on USB.")
       .def("connect", &USBDevice::connect, py::arg("serial_num") = "default",
-           py::arg("verbose") = true, py::call_guard<py::gil_scoped_release>())
+           py::arg("verbose") = true, py::call_guard<py::gil_scoped_release>(),
+           "Opens the device with this serial number (\"default\": the first one found).")
       .def("disconnect", &USBDevice::disconnect, py::arg("verbose") = true,
-           py::call_guard<py::gil_scoped_release>())
+           py::call_guard<py::gil_scoped_release>(), kDisconnectDoc)
       .def("close", &USBDevice::close, py::arg("verbose") = true,
-           py::call_guard<py::gil_scoped_release>())
+           py::call_guard<py::gil_scoped_release>(), kCloseDoc)
       .def_property_readonly("connect_status_cmd", &USBDevice::connectStatusCmd)
       .def_property_readonly("serial_num", &USBDevice::serialNum)
       .def_property_readonly("client_cmd", &USBDevice::clientCmd);
 
-  bindDeviceClass<NetworkDevice, Device>(m, "NetworkDevice")
+  bindDeviceClass<NetworkDevice, Device>(m, "NetworkDevice", "A device on a TCP command link.")
       .def("connect", &NetworkDevice::connect, py::arg("ip_addr") = "192.168.1.110",
            py::arg("port") = TCP_CMD_PORT, py::arg("verbose") = true,
-           py::call_guard<py::gil_scoped_release>())
+           py::call_guard<py::gil_scoped_release>(),
+           "Connects the command link to ip_addr:port and starts its receive thread.")
       .def("disconnect", &NetworkDevice::disconnect, py::arg("verbose") = true,
-           py::call_guard<py::gil_scoped_release>())
+           py::call_guard<py::gil_scoped_release>(), kDisconnectDoc)
       .def("close", &NetworkDevice::close, py::arg("verbose") = true,
-           py::call_guard<py::gil_scoped_release>())
+           py::call_guard<py::gil_scoped_release>(), kCloseDoc)
       .def_property_readonly("connect_status_cmd", &NetworkDevice::connectStatusCmd)
       .def_property_readonly("ip_addr", &NetworkDevice::ipAddr)
       .def_property_readonly("client_cmd", &NetworkDevice::clientCmd);
 
-  bindDeviceClass<ETHDevice, NetworkDevice>(m, "ETHDevice");
+  bindDeviceClass<ETHDevice, NetworkDevice>(m, "ETHDevice", "A device on Ethernet.");
 
-  bindDeviceClass<WifiDevice, NetworkDevice>(m, "WifiDevice")
+  bindDeviceClass<WifiDevice, NetworkDevice>(m, "WifiDevice",
+                                             "A device on Wi-Fi: a data link and a command link.")
       .def("connect", &WifiDevice::connect, py::arg("ip") = "192.168.5.79",
            py::arg("port1") = TCP_DATA_PORT, py::arg("port2") = TCP_CMD_PORT,
-           py::arg("verbose") = true, py::call_guard<py::gil_scoped_release>())
+           py::arg("verbose") = true, py::call_guard<py::gil_scoped_release>(),
+           "Connects the data link to ip:port1 and the command link to ip:port2.")
       .def("disconnect", &WifiDevice::disconnect, py::arg("verbose") = true,
-           py::call_guard<py::gil_scoped_release>())
+           py::call_guard<py::gil_scoped_release>(), kDisconnectDoc)
       .def("close", &WifiDevice::close, py::arg("verbose") = true,
-           py::call_guard<py::gil_scoped_release>())
+           py::call_guard<py::gil_scoped_release>(), kCloseDoc)
       .def_property_readonly("connect_status_data", &WifiDevice::connectStatusData)
       .def_property_readonly("client_data", &WifiDevice::clientData);
 
-  bindDeviceClass<BroadcastDevice, Device>(m, "BroadcastDevice")
+  bindDeviceClass<BroadcastDevice, Device>(
+      m, "BroadcastDevice",
+      "The discovery side: a UDP socket for broadcasts and their answers. "
+      "BroadcastDevice(verbose=True, broadcast_addr=None): broadcast_addr \"host\" or "
+      "\"host:port\" points the broadcasts elsewhere (e.g. at loopback).")
       .def("connect", &BroadcastDevice::connect, py::arg("verbose") = true,
-           py::call_guard<py::gil_scoped_release>())
+           py::call_guard<py::gil_scoped_release>(),
+           "Binds the UDP socket that receives the answers and starts its receive thread.")
       .def("disconnect", &BroadcastDevice::disconnect, py::arg("verbose") = true,
-           py::call_guard<py::gil_scoped_release>())
+           py::call_guard<py::gil_scoped_release>(), kDisconnectDoc)
       .def("close", &BroadcastDevice::close, py::arg("verbose") = true,
-           py::call_guard<py::gil_scoped_release>())
+           py::call_guard<py::gil_scoped_release>(), kCloseDoc)
       .def_property_readonly("connect_status_udp", &BroadcastDevice::connectStatusUdp)
       .def_property_readonly("broadcast_window", &BroadcastDevice::broadcastWindow,
                              "seconds a broadcast collects answers: PACKET_TIMEOUT, or "

@@ -111,10 +111,21 @@ void bindCatalogue(py::module_& m) {
   });
 }
 
+// A model's docstring, from its row: label, device class, modules.
+std::string modelDoc(const ModelInfo& row) {
+  std::string doc = row.class_name + " (" + row.label + "): device class " +
+                    deviceClassName(row.device) + "; modules ";
+  for (size_t i = 0; i < row.modules.size(); ++i) doc += (i ? ", " : "") + row.modules[i];
+  return doc + ".\n\n" + row.class_name +
+         "(verbose=True): connect it, call its operations (each also as an awaitable "
+         "name_async), close it; `with` closes it too.";
+}
+
 // A model class: its device class and its module classes as bases.
 template <class Model, class... Modules>
 void bindModel(py::module_& m, const char* name, TypeList<Modules...>) {
-  bindDeviceClass<Model, typename Model::DeviceType, Modules...>(m, name);
+  bindDeviceClass<Model, typename Model::DeviceType, Modules...>(m, name,
+                                                                 modelDoc(modelInfo(name)).c_str());
 }
 
 // The Python classes a row asks for as bases: its device class, then the

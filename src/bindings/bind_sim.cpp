@@ -158,17 +158,19 @@ void atomicProperty(py::class_<Faults>& cls, const char* name, Field field, cons
 void bindSim(pybind11::module_& parent) {
   py::module_ m = parent.def_submodule("_sim", "Simulated devices on loopback and virtual USB");
 
-  py::enum_<Link>(m, "Link")
+  py::enum_<Link>(m, "Link", "How a simulated device is reached.")
       .value("Ethernet", Link::Ethernet)
       .value("Wifi", Link::Wifi)
       .value("Usb", Link::Usb);
-  py::enum_<Channel>(m, "Channel")
+  py::enum_<Channel>(m, "Channel", "A link of a simulated device.")
       .value("Auto", Channel::Auto)
       .value("Cmd", Channel::Cmd)
       .value("Data", Channel::Data)
       .value("Udp", Channel::Udp);
 
-  py::class_<DeviceConfig>(m, "DeviceConfig")
+  py::class_<DeviceConfig>(
+      m, "DeviceConfig",
+      "What a simulated device is: model, link, serial, addresses (port 0: a free port).")
       .def(py::init(&makeConfig), py::kw_only(), py::arg("model") = "Trellis",
            py::arg("link") = py::none(), py::arg("serial") = "SIM00001",
            py::arg("host") = "127.0.0.1", py::arg("cmd_port") = 0, py::arg("data_port") = 0,
@@ -190,7 +192,7 @@ void bindSim(pybind11::module_& parent) {
       .def_readwrite("gateway", &DeviceConfig::gateway)
       .def("__repr__", &configRepr);
 
-  py::class_<Faults> faults(m, "Faults");
+  py::class_<Faults> faults(m, "Faults", "Faults a simulated device injects into its answers.");
   atomicProperty<decltype(&Faults::drop_next), int>(faults, "drop_next", &Faults::drop_next,
                                                     "swallow the next N replies");
   atomicProperty<decltype(&Faults::delay_us), int64_t>(faults, "delay_us", &Faults::delay_us,
@@ -211,7 +213,7 @@ void bindSim(pybind11::module_& parent) {
           "commands the device ignores (recorded, never answered)")
       .def("clear", &Faults::clear, "back to a healthy device");
 
-  py::class_<Recorded>(m, "Packet")
+  py::class_<Recorded>(m, "Packet", "A packet the simulated device received from the host.")
       .def_readonly("cmd", &Recorded::cmd)
       .def_property_readonly("data", [](const Recorded& r) { return toPy(r.data); })
       .def_property_readonly("link", [](const Recorded& r) { return channelName(r.channel); })
@@ -225,25 +227,13 @@ void bindSim(pybind11::module_& parent) {
                channelName(r.channel) + "')";
       });
 
-  py::class_<Request>(m, "Request")
+  py::class_<Request>(m, "Request", "The command a handler answers.")
       .def_readonly("cmd", &Request::cmd)
       .def_property_readonly("data", [](const Request& r) { return toPy(r.data); })
       .def_readonly("channel", &Request::channel);
 
-  py::class_<Context>(m, "Context")
-      .def(
-          "reply", [](Context& c, const orv::Value& data) { c.reply(toBytes(data)); },
-          py::arg("data"))
-      .def(
-          "reply", [](Context& c, int cmd, const orv::Value& data) { c.reply(cmd, toBytes(data)); },
-          py::arg("cmd"), py::arg("data"))
-      .def(
-          "stream",
-          [](Context& c, int cmd, const orv::Value& data) { c.stream(cmd, toBytes(data)); },
-          py::arg("cmd"), py::arg("data"))
-      .def_property_readonly("device", [](Context& c) { return share(c.device()); });
-
-  py::class_<SimDevice, std::shared_ptr<SimDevice>>(m, "SimDevice")
+  py::class_<SimDevice, std::shared_ptr<SimDevice>>(
+      m, "SimDevice", "A running simulated device: its addresses, faults and packet record.")
       .def_property_readonly("model", &SimDevice::model)
       .def_property_readonly("serial", &SimDevice::serial)
       .def_property_readonly("link", &SimDevice::link)
@@ -260,14 +250,15 @@ void bindSim(pybind11::module_& parent) {
       .def_property_readonly("reboot_count", &SimDevice::rebootCount)
       .def_property_readonly("periodic_count", &SimDevice::periodicCount)
       .def("packets", &SimDevice::packets, "every packet received from the host, in order")
-      .def("packet_count", &SimDevice::packetCount)
-      .def("clear_packets", &SimDevice::clearPackets)
+      .def("packet_count", &SimDevice::packetCount, "how many packets were received")
+      .def("clear_packets", &SimDevice::clearPackets, "forgets the packets received so far")
       .def(
           "wait_for_packets",
           [](const SimDevice& d, size_t n, double timeout) {
             return d.waitForPackets(n, toMs(timeout));
           },
-          py::arg("n"), py::arg("timeout") = 5.0, release_gil())
+          py::arg("n"), py::arg("timeout") = 5.0, release_gil(),
+          "waits until n packets were received or timeout seconds passed; whether they were")
       .def(
           "send",
           [](SimDevice& d, int cmd, const orv::Value& data, Channel ch) {
@@ -275,7 +266,9 @@ void bindSim(pybind11::module_& parent) {
             py::gil_scoped_release r;
             return d.send(cmd, std::move(b), ch);
           },
-          py::arg("cmd"), py::arg("data") = py::bytes(), py::arg("channel") = Channel::Auto)
+          py::arg("cmd"), py::arg("data") = py::bytes(),
+          py::arg_v("channel", Channel::Auto, "Channel.Auto"),
+          "sends an unasked packet to the host")
       .def(
           "stream_records",
           [](SimDevice& d, int cmd, const orv::Value& prefix, size_t count, int64_t interval_us,
@@ -287,13 +280,18 @@ void bindSim(pybind11::module_& parent) {
           py::arg("cmd"), py::arg("prefix") = py::bytes(), py::arg("count") = 1,
           py::arg("interval_us") = 0, py::arg("payload_len") = 16,
           "send count records (prefix + counter bytes) on the streaming link; blocks until done")
-      .def("stop_streams", &SimDevice::stopAllPeriodic, release_gil())
-      .def("close_link", &SimDevice::closeLink, release_gil())
-      .def("host_connected", &SimDevice::hostConnected, py::arg("channel") = Channel::Cmd)
+      .def("stop_streams", &SimDevice::stopAllPeriodic, release_gil(), "stops every stream")
+      .def("close_link", &SimDevice::closeLink, release_gil(),
+           "drops the host's connection, as a device that goes away")
+      .def("host_connected", &SimDevice::hostConnected,
+           py::arg_v("channel", Channel::Cmd, "Channel.Cmd"),
+           "whether a host is connected on the channel")
       .def(
           "wait_for_host",
           [](SimDevice& d, Channel ch, double timeout) { return d.waitForHost(ch, toMs(timeout)); },
-          py::arg("channel") = Channel::Cmd, py::arg("timeout") = 5.0, release_gil())
+          py::arg_v("channel", Channel::Cmd, "Channel.Cmd"), py::arg("timeout") = 5.0,
+          release_gil(),
+          "waits until a host connects on the channel or timeout seconds passed; whether it did")
       .def(
           "set_handler",
           [](SimDevice& d, int cmd, const py::object& fn) { d.setHandler(cmd, pyHandler(fn)); },
@@ -308,11 +306,12 @@ void bindSim(pybind11::module_& parent) {
           [](SimDevice& d, const std::string& key, const orv::Value& fallback) {
             return d.state().get(key, fallback);
           },
-          py::arg("key"), py::arg("default") = py::none())
+          py::arg("key"), py::arg("default") = py::none(),
+          "a value of the device's key/value store (see the handler files)")
       .def(
           "state_set",
           [](SimDevice& d, const std::string& key, const orv::Value& v) { d.state().set(key, v); },
-          py::arg("key"), py::arg("value"))
+          py::arg("key"), py::arg("value"), "sets a value of the device's key/value store")
       .def("__repr__", [](const SimDevice& d) {
         std::string s = "<SimDevice " + d.model() + " " + linkName(d.link());
         if (d.link() != Link::Usb) s += " " + d.host() + ":" + std::to_string(d.cmdPort());
@@ -320,7 +319,21 @@ void bindSim(pybind11::module_& parent) {
         return s + " serial=" + d.serial() + ">";
       });
 
-  py::class_<Simulator, std::shared_ptr<Simulator>>(m, "Simulator")
+  py::class_<Context>(m, "Context", "What a handler answers through.")
+      .def(
+          "reply", [](Context& c, const orv::Value& data) { c.reply(toBytes(data)); },
+          py::arg("data"), "Answers the request with these payload bytes.")
+      .def(
+          "reply", [](Context& c, int cmd, const orv::Value& data) { c.reply(cmd, toBytes(data)); },
+          py::arg("cmd"), py::arg("data"), "Answers with another command code.")
+      .def(
+          "stream",
+          [](Context& c, int cmd, const orv::Value& data) { c.stream(cmd, toBytes(data)); },
+          py::arg("cmd"), py::arg("data"), "Sends a record on the streaming link.")
+      .def_property_readonly("device", [](Context& c) { return share(c.device()); });
+
+  py::class_<Simulator, std::shared_ptr<Simulator>>(
+      m, "Simulator", "Simulated devices on loopback; a `with` block stops them.")
       .def(py::init(&makeSimulator))
       .def(
           "add_device",
@@ -335,19 +348,21 @@ void bindSim(pybind11::module_& parent) {
             py::gil_scoped_release r;
             return share(s.addDevice(std::move(c)));
           },
-          py::arg("config") = py::none(), "add_device(DeviceConfig) or add_device(model=..., ...)")
-      .def("remove_device", &Simulator::removeDevice, py::arg("device"), release_gil())
+          py::arg("config") = py::none(),
+          "Adds and starts a device: add_device(DeviceConfig) or add_device(model=..., ...).")
+      .def("remove_device", &Simulator::removeDevice, py::arg("device"), release_gil(),
+           "stops a device and removes it")
       .def("start_discovery", &Simulator::startDiscovery, py::arg("host") = "127.0.0.1",
            py::arg("port") = orv::UDP_SEND_PORT, py::arg("reply_port") = orv::UDP_RECV_PORT,
-           release_gil())
-      .def("stop_discovery", &Simulator::stopDiscovery, release_gil())
+           release_gil(), "answers discovery broadcasts on host:port, to reply_port")
+      .def("stop_discovery", &Simulator::stopDiscovery, release_gil(), "stops answering broadcasts")
       .def_property_readonly("discovery_port", &Simulator::discoveryPort)
-      .def("stop", &Simulator::stop, release_gil())
-      .def("devices", &Simulator::devices)
+      .def("stop", &Simulator::stop, release_gil(), "stops every device and discovery")
+      .def("devices", &Simulator::devices, "the devices, in the order they were added")
       .def(
           "find_device",
           [](const Simulator& s, const std::string& serial) { return s.findDevice(serial); },
-          py::arg("serial"))
+          py::arg("serial"), "the device with this serial, or None")
       .def("__enter__", [](const std::shared_ptr<Simulator>& s) { return s; })
       .def("__exit__",
            [](Simulator& s, const py::args&) {
@@ -376,8 +391,11 @@ void bindSim(pybind11::module_& parent) {
       py::arg("models") = "Trellis", py::arg("link") = "eth", py::arg("discovery") = false,
       py::arg("host") = "127.0.0.1",
       "a started Simulator with one device per model (serials SIM00001, ...)");
-  m.def("numbered_config", &numberedConfig, py::arg("model"), py::arg("link"), py::arg("index"));
-  m.def("registered_commands", &registeredCommands);
+  m.def("numbered_config", &numberedConfig, py::arg("model"), py::arg("link"), py::arg("index"),
+        "the DeviceConfig of the index-th device (from 1) of a numbered set: serial SIM%05d, a MAC "
+        "from the index");
+  m.def("registered_commands", &registeredCommands,
+        "the command codes the simulated firmware answers");
   m.def("_stop_all", &stopAll);
   py::module_::import("atexit").attr("register")(m.attr("_stop_all"));
   // Importable by its dotted name (from pyorv._pyorv._sim import ...).

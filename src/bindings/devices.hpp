@@ -40,8 +40,9 @@ std::shared_ptr<T> makeDevice(bool verbose, const char* class_name) {
 // constructor also takes broadcast_addr ("host" or "host:port") for the
 // discovery target.
 template <class T, class... Bases>
-py::class_<T, Bases..., std::shared_ptr<T>> bindDeviceClass(py::module_& m, const char* name) {
-  py::class_<T, Bases..., std::shared_ptr<T>> cls(m, name);
+py::class_<T, Bases..., std::shared_ptr<T>> bindDeviceClass(py::module_& m, const char* name,
+                                                            const char* doc = nullptr) {
+  py::class_<T, Bases..., std::shared_ptr<T>> cls(m, name, doc);
   std::string cname = name;
   if constexpr (std::is_base_of_v<BroadcastDevice, T>) {
     cls.def(py::init([cname](bool verbose, std::optional<std::string> target) {

@@ -56,14 +56,15 @@ std::string warningStr(py::object self) {
       .cast<std::string>();
 }
 
-py::object makeClass(const char* name, py::tuple bases, py::module_& m) {
+py::object makeClass(const char* name, py::tuple bases, py::module_& m, const std::string& doc) {
   py::dict ns;
   ns["__module__"] = m.attr("__name__");
+  ns["__doc__"] = doc;
   return py::reinterpret_borrow<py::object>((PyObject*)&PyType_Type)(name, bases, ns);
 }
 
-py::object makeClass(const char* name, py::object base, py::module_& m) {
-  return makeClass(name, py::make_tuple(base), m);
+py::object makeClass(const char* name, py::object base, py::module_& m, const std::string& doc) {
+  return makeClass(name, py::make_tuple(base), m, doc);
 }
 
 // The rows' second bases: builtin exception classes of the host.
@@ -97,13 +98,21 @@ void bindErrors(py::module_& m) {
   py::object exc = py::module_::import("builtins").attr("Exception");
   py::object uw = py::module_::import("builtins").attr("UserWarning");
 
-  g_error_base = makeClass("Error", exc, m);
+  g_error_base =
+      makeClass("Error", exc, m,
+                "The driver's errors: each class has its fixed code and default message.\n\n"
+                "Error(code, msg): str(err) is \"Error {code}: {msg}\".");
   g_error_base.attr("__init__") =
       py::cpp_function(errorInit, py::is_method(g_error_base), py::arg("code"), py::arg("msg"));
   g_error_base.attr("__str__") = py::cpp_function(errorStr, py::is_method(g_error_base));
   m.attr("Error") = g_error_base;
 
-  g_warning_base = makeClass("ORVWarning", uw, m);
+  g_warning_base = makeClass(
+      "ORVWarning", uw, m,
+      "The driver's warnings (the motion family, queue overflows): each class has its fixed "
+      "code and default message.\n\n"
+      "ORVWarning(code, msg, silent=False): reports itself with the stack unless silent; "
+      "str(w) is \"Warning {code}: {msg}\".");
   g_warning_base.attr("__init__") =
       py::cpp_function(warningInit, py::is_method(g_warning_base), py::arg("code"), py::arg("msg"));
   g_warning_base.attr("__str__") = py::cpp_function(warningStr, py::is_method(g_warning_base));
@@ -116,7 +125,11 @@ void bindErrors(py::module_& m) {
     const ErrorInfo& row = table[i];
     py::object base = row.kind == ErrorKind::Warning ? g_warning_base : g_error_base;
     std::string name(row.name);
-    py::object cls = makeClass(name.c_str(), basesOf(row, base), m);
+    std::string doc = name + ": " + (row.kind == ErrorKind::Warning ? "warning" : "error") +
+                      " code " + std::to_string(row.code);
+    if (!row.constant.empty()) doc += " (pyorv." + std::string(row.constant) + ")";
+    doc += ".\n\nDefault message: \"" + std::string(row.message) + "\"";
+    py::object cls = makeClass(name.c_str(), basesOf(row, base), m, doc);
     const int code = row.code;
     const std::string message(row.message);
     // Name(msg=None, *args, **kwargs): the class's own code, its message by default.
@@ -134,14 +147,20 @@ void bindErrors(py::module_& m) {
   }
 
   // printGenericError(err): "<ClassName>: <text>"
-  m.def("printGenericError", [](py::object err) {
-    py::print(py::str(py::type::handle_of(err).attr("__name__")) + py::str(":"), err);
-  });
-  m.def("checkFirmwareError", [](py::object status) -> int {
-    // A status that is not an integer matches no row.
-    if (!py::isinstance<py::int_>(status)) throw Error(ErrorId::FirmwareOtherError);
-    return checkFirmwareError(status.cast<int64_t>());
-  });
+  m.def(
+      "printGenericError",
+      [](py::object err) {
+        py::print(py::str(py::type::handle_of(err).attr("__name__")) + py::str(":"), err);
+      },
+      "Prints \"<ClassName>: <text>\" of an error.");
+  m.def(
+      "checkFirmwareError",
+      [](py::object status) -> int {
+        // A status that is not an integer matches no row.
+        if (!py::isinstance<py::int_>(status)) throw Error(ErrorId::FirmwareOtherError);
+        return checkFirmwareError(status.cast<int64_t>());
+      },
+      "Raises the error of a firmware status byte; 0 for status 0.");
 
   py::register_exception_translator([](std::exception_ptr p) {
     if (!p) return;
