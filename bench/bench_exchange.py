@@ -31,6 +31,7 @@ Figures only: nothing here passes or fails on a time.
 
 import argparse
 import asyncio
+import logging
 import os
 import socket
 import statistics
@@ -334,8 +335,15 @@ def main(argv=None):
     ap.add_argument("--no-burst", action="store_true", help="skip the 1000-awaitable row")
     ap.add_argument("--mode", choices=["pinned", "free", "both"], default="both",
                     help="pinned to one CPU, unpinned, or pinned then unpinned")
+    ap.add_argument("--trace", action="store_true",
+                    help="run with the pyorv logger at DEBUG (a hexdump of every packet, "
+                         "handed to a NullHandler): the cost of the wire trace")
     args = ap.parse_args(argv)
     n, warmup = max(1, args.rounds), max(0, args.warmup)
+    if args.trace:
+        logging.getLogger("pyorv").setLevel(logging.DEBUG)
+        logging.getLogger("pyorv").propagate = False
+        print("wire trace on: pyorv logger at DEBUG, records dropped by its NullHandler")
 
     cpus = os.sched_getaffinity(0)
     if args.mode in ("pinned", "both"):

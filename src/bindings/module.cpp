@@ -1,4 +1,5 @@
 // pyorv._pyorv: the extension entry.
+#include <pybind11/gil_safe_call_once.h>
 #include <pybind11/stl.h>
 
 #include <atomic>
@@ -54,6 +55,53 @@ void pyWarning(ErrorId id, const std::string& msg) {
     e.discard_as_unraisable("pyorv warning");
   }
 }
+// The "pyorv" logger, looked up once.
+py::object& pyorvLogger() {
+  static py::gil_safe_call_once_and_store<py::object> store;
+  return store
+      .call_once_and_store_result(
+          [] { return py::module_::import("logging").attr("getLogger")("pyorv"); })
+      .get_stored();
+}
+
+void pyLog(int level, const std::string& msg) {
+  if (deferredFromFiber([level, msg] { pyLog(level, msg); })) return;
+  if (!g_alive.load()) return;
+  py::gil_scoped_acquire gil;
+  try {
+    pyorvLogger().attr("log")(level, "%s", msg);
+  } catch (py::error_already_set& e) {
+    e.discard_as_unraisable("pyorv log");
+  }
+}
+
+// The core asks the logger nothing per message: it keeps the lowest level the
+// logger lets through, refreshed whenever the host's logging levels change
+// (every setLevel and logging.disable clear the manager's cache).
+void refreshLogThreshold() {
+  py::object logger = pyorvLogger();
+  int threshold = 1000;
+  for (int level : {10, 20, 30})
+    if (logger.attr("isEnabledFor")(level).cast<bool>()) {
+      threshold = level;
+      break;
+    }
+  report::setLogThreshold(threshold);
+}
+
+void installLogging() {
+  py::module_ logging = py::module_::import("logging");
+  py::object logger = pyorvLogger();
+  logger.attr("addHandler")(logging.attr("NullHandler")());
+  py::object manager = logging.attr("Logger").attr("manager");
+  py::object clear = manager.attr("_clear_cache");
+  manager.attr("_clear_cache") = py::cpp_function([clear] {
+    clear();
+    refreshLogThreshold();
+  });
+  refreshLogThreshold();
+}
+
 // The hook of link/interrupt.hpp: a blocking call of the main thread woken by
 // SIGINT runs the handlers here and ends with what they raise.
 void runSignalHandlers() {
@@ -67,7 +115,8 @@ bool pythonAlive() { return g_alive.load(); }
 void setPythonAlive(bool alive) { g_alive.store(alive); }
 
 void installHooks(py::module_& m) {
-  report::setHooks({&pyPrint, &pyWarning});
+  report::setHooks({&pyPrint, &pyWarning, &pyLog});
+  installLogging();
   setPythonAlive(true);
   // Signals reach the handlers of the main thread only: imported elsewhere,
   // blocking calls are not woken by them.

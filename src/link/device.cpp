@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstdio>
 
 #include "link/error.hpp"
 #include "link/fiber.hpp"
@@ -129,6 +130,34 @@ void Device::putToDataPool(int cmd, const Bytes& data) {
 
 void Device::announce(bool verbose, const std::string& text) const {
   if (verbose) report::print(text);
+  report::log(report::LogLevel::Info, text);
+}
+
+namespace {
+std::string commandText(int cmd) {
+  char buf[32];
+  std::snprintf(buf, sizeof buf, "command 0x%02X (%d)", static_cast<unsigned>(cmd) & 0xFFu, cmd);
+  return buf;
+}
+}  // namespace
+
+void Device::tracePacket(char direction, int cmd, std::span<const uint8_t> bytes) const {
+  std::string where = address();
+  report::log(report::LogLevel::Debug, deviceName() + (where.empty() ? "" : " " + where) + " " +
+                                           direction + " " + commandText(cmd) + ", " +
+                                           std::to_string(bytes.size()) +
+                                           " bytes: " + report::hexdump(bytes));
+}
+
+void Device::logMissedReply(int cmd, double waited, int attempt, int attempts) const {
+  if (!report::logOn(report::LogLevel::Warning)) return;
+  char secs[32];
+  std::snprintf(secs, sizeof secs, "%g", waited);
+  std::string where = address();
+  report::log(report::LogLevel::Warning, deviceName() + (where.empty() ? "" : " " + where) +
+                                             ": no reply to " + commandText(cmd) + " within " +
+                                             secs + " s (attempt " + std::to_string(attempt) +
+                                             " of " + std::to_string(attempts) + ")");
 }
 
 bool Device::closeBase() {
@@ -145,7 +174,9 @@ void Device::dispatch(Link& link, Client& client, const Bytes& raw) {
   thread_local std::vector<RawPacket> packets;
   packets.clear();
   client.splitter().feed(raw, packets);
+  const bool trace = report::logOn(report::LogLevel::Debug);
   for (const auto& p : packets) {
+    if (trace) tracePacket('<', p.cmd, p.data);
     try {
       putToDataPool(p.cmd, p.data);
     } catch (const std::exception& e) {
@@ -276,6 +307,7 @@ void Device::sendBefore(int cmd, std::span<const uint8_t> data_out, Clock::time_
     raise(ErrorId::LinkNotOpenError);
   }
   const Bytes packet = preparePacket(cmd, data_out);
+  if (report::logOn(report::LogLevel::Debug)) tracePacket('>', cmd, packet);
   try {
     // One packet on the wire at a time; a sender stuck behind a device that
     // stopped reading holds the others no longer than their own deadlines.
@@ -471,6 +503,7 @@ Bytes Device::echoPacketWithRetry(int cmd, std::span<const uint8_t> data_out, do
       if (e.id() != ErrorId::ReceivePacketTimeoutError) throw;
       count += 1;
       timer += echo_timeout;
+      logMissedReply(cmd, echo_timeout, count, NUM_RETRIES);
     }
   }
   if (timer >= timeout) raise(ErrorId::ReceivePacketTimeoutError);
@@ -513,6 +546,7 @@ Bytes Device::echoPacketWithRetryAsync(int cmd, std::span<const uint8_t> data_ou
     if (tok && tok->cancelled()) throw Cancelled();
     value = echoPacketAsync(cmd, data_out, RETRY_TIMEOUT, tok);
     count += 1;
+    if (!value) logMissedReply(cmd, RETRY_TIMEOUT, count, num_retries);
   }
   if (value) return std::move(*value);
   const double remaining = timeout - RETRY_TIMEOUT * count;

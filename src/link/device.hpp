@@ -115,6 +115,8 @@ class Device {
 
   const std::string& className() const { return class_name_; }
   std::string deviceName() const;  // _getDeviceName
+  // Where the device is (address, serial number), for the log; may be empty.
+  virtual std::string address() const { return {}; }
   bool killed() const { return killed_.load(); }
 
   // Pools.
@@ -189,6 +191,10 @@ class Device {
   void stopLinks(std::initializer_list<Link*> links);
   void registerLink(Link& link);
   void announce(bool verbose, const std::string& text) const;
+  // The log's debug line of one packet sent ('>') or received ('<').
+  void tracePacket(char direction, int cmd, std::span<const uint8_t> bytes) const;
+  // The log's warning of an attempt that got no reply.
+  void logMissedReply(int cmd, double waited, int attempt, int attempts) const;
 
   // How long broadcastPacket collects answers, in seconds.
   double bcst_window_ = PACKET_TIMEOUT;
@@ -234,6 +240,7 @@ class USBDevice : public Device {
 
   bool connectStatusCmd() const { return cmd_.status; }
   std::optional<std::string> serialNum() const;
+  std::string address() const override { return serialNum().value_or(""); }
   std::shared_ptr<USBClient> clientCmd() const;
 
  protected:
@@ -256,6 +263,7 @@ class NetworkDevice : public Device {
 
   bool connectStatusCmd() const { return cmd_.status; }
   std::optional<std::string> ipAddr() const;
+  std::string address() const override { return ipAddr().value_or(""); }
   // The address as the device reports it (NetworkModule shares ip_addr).
   void setIpAddr(std::string ip_addr) {
     std::lock_guard lk(m_);

@@ -2,6 +2,7 @@
 
 #include <cxxabi.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cstdio>
 #include <iostream>
@@ -13,6 +14,7 @@ namespace {
 
 std::mutex g_m;
 Hooks g_hooks;
+std::atomic<int> g_log_threshold{1000};  // nothing until the host says
 
 Hooks hooks() {
   std::lock_guard lk(g_m);
@@ -36,6 +38,32 @@ void warning(ErrorId id) { warning(id, std::string(errorInfo(id).message)); }
 void warning(ErrorId id, const std::string& msg) {
   if (auto h = hooks(); h.warning) return h.warning(id, msg);
   std::cerr << "Warning " << errorInfo(id).code << ": " << msg << std::endl;
+}
+
+bool logOn(LogLevel level) {
+  return static_cast<int>(level) >= g_log_threshold.load(std::memory_order_relaxed);
+}
+
+void log(LogLevel level, const std::string& msg) {
+  if (!logOn(level)) return;
+  if (auto h = hooks(); h.log) h.log(static_cast<int>(level), msg);
+}
+
+void setLogThreshold(int level) { g_log_threshold.store(level, std::memory_order_relaxed); }
+
+std::string hexdump(std::span<const uint8_t> bytes) {
+  constexpr size_t kShown = 256;
+  static constexpr char kHex[] = "0123456789ABCDEF";
+  std::string out;
+  const size_t n = std::min(bytes.size(), kShown);
+  out.reserve(n * 3 + 24);
+  for (size_t i = 0; i < n; ++i) {
+    if (i) out += ' ';
+    out += kHex[bytes[i] >> 4];
+    out += kHex[bytes[i] & 15];
+  }
+  if (bytes.size() > kShown) out += " ... (" + std::to_string(bytes.size() - kShown) + " more)";
+  return out;
 }
 
 std::string className(const std::exception& e) {

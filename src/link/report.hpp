@@ -3,7 +3,9 @@
 // interpreter's sys.stdout and warnings module.
 #pragma once
 
+#include <cstdint>
 #include <exception>
+#include <span>
 #include <string>
 
 #include "link/error.hpp"
@@ -16,7 +18,20 @@ struct Hooks {
   // Reports an ORVWarning row at construction: the call stack, then the
   // warning "Warning {code}: {msg}".
   void (*warning)(ErrorId id, const std::string& msg) = nullptr;
+  // Hands one message to the host's log (the "pyorv" logger).
+  void (*log)(int level, const std::string& msg) = nullptr;
 };
+
+// The driver's log, levels numbered as the host's logging module numbers
+// them: connections at Info, retries and timeouts at Warning, every packet
+// at Debug.  logOn is one relaxed load: a disabled level costs nothing more.
+enum class LogLevel : int { Debug = 10, Info = 20, Warning = 30 };
+bool logOn(LogLevel level);
+void log(LogLevel level, const std::string& msg);
+// The lowest level kept; the host sets it whenever its logging levels change.
+void setLogThreshold(int level);
+// "02 00 02 F0 00 0D 0A": the bytes of a packet for the trace (long ones cut).
+std::string hexdump(std::span<const uint8_t> bytes);
 
 void setHooks(const Hooks& hooks);
 void print(const std::string& line);

@@ -2,6 +2,7 @@
 over real loopback sockets and the virtual USB backend."""
 
 import asyncio
+import logging
 import errno
 import gc
 import os
@@ -206,6 +207,26 @@ def test_driver_info_round_trip_with_wire_bytes(eth, eth_sim):
     assert (p.cmd, p.data, p.link) == (240, b"\x00", "cmd")
     assert eth._preparePacket(pyorv.GET_DRIVER_INFO, [0]) == [2, 0, 2, 0xF0, 0, 13, 10]
     assert eth._preparePacket(pyorv.AHRS_START) == [2, 0, 2, 0x24, 0x01, 13, 10]
+
+
+def test_log_traces_packets_and_warns_of_missed_replies(eth, eth_sim, caplog):
+    logger = logging.getLogger("pyorv")
+    assert any(isinstance(h, logging.NullHandler) for h in logger.handlers)
+    eth._echoPacketWithRetry(pyorv.GET_DRIVER_INFO, [0], timeout=3)
+    assert caplog.records == []  # the level was not lowered: nothing reaches the log
+    with caplog.at_level(logging.DEBUG, logger="pyorv"):
+        eth_sim.faults.drop_next = 1
+        reply = eth._echoPacketWithRetry(pyorv.GET_DRIVER_INFO, [0], timeout=0.3)
+    lines = [(r.levelno, r.getMessage()) for r in caplog.records]
+    sent = (logging.DEBUG, "ETHDevice 127.0.0.1 > command 0xF0 (240), 7 bytes: 02 00 02 F0 00 0D 0A")
+    assert lines == [
+        sent,
+        (logging.WARNING, "ETHDevice 127.0.0.1: no reply to command 0xF0 (240) within 0.1 s "
+                          "(attempt 1 of 3)"),
+        sent,
+        (logging.DEBUG, f"ETHDevice 127.0.0.1 < command 0xF0 (240), {len(reply)} bytes: "
+                        + " ".join(f"{b:02X}" for b in reply)),
+    ]
 
 
 # ---- the awaitable exchange -------------------------------------------------------
