@@ -392,6 +392,22 @@ EchoPool::WaitResult Device::leadOrFollow(Link& link, NetworkClient& client, int
       if (leads) role.endLead();
     }
   } me{role};
+  // A reply already on its way needs no wait: take what the socket holds,
+  // without blocking, before arranging to be woken (and before asking the
+  // system about the signal handler).
+  Bytes raw;
+  if (!(tok && tok->cancelled()) && (me.leads = role.tryLead())) {
+    NetworkClient::Recv got = NetworkClient::Recv::Closed;
+    try {
+      got = client.recvWithin(link.read_size, Clock::time_point::min(), -1, raw);
+    } catch (const std::exception&) {
+    }
+    if (got == NetworkClient::Recv::Data) dispatch(link, client, raw);
+    if (auto reply = echo_.pop(key)) {
+      out = std::move(*reply);
+      return EchoPool::WaitResult::Taken;
+    }
+  }
   auto wake = [&role, this] {
     role.wakeLeader();
     echo_.wakeAll();
@@ -404,7 +420,6 @@ EchoPool::WaitResult Device::leadOrFollow(Link& link, NetworkClient& client, int
     }
   } clear_waker{tok};
   interrupt::WaitScope signals(wake);
-  Bytes raw;
   for (;;) {
     if (auto reply = echo_.pop(key)) {
       out = std::move(*reply);
