@@ -187,7 +187,9 @@ def test_ctrl_c_interrupts_a_blocking_call(call):
         start = time.monotonic()
         line = proc.stdout.readline()
         took = time.monotonic() - start
-        out, err = proc.communicate(timeout=30)
+        # Read through the same buffered reader: readline may already hold the next line.
+        out, err = proc.stdout.read(), proc.stderr.read()
+        proc.wait(timeout=30)
     finally:
         watchdog.cancel()
     assert line == "interrupted\n", err
