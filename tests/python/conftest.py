@@ -117,8 +117,10 @@ def sent(sim_dev, cmd):
     return sum(1 for p in sim_dev.packets() if p.cmd == cmd)
 
 
-def thread_count():
-    return len(os.listdir("/proc/self/task"))
+def thread_ids():
+    """The native ids of this process's threads (compared as sets: a thread of
+    an earlier test may end at any moment)."""
+    return set(os.listdir("/proc/self/task"))
 
 
 def wait_until(pred, timeout=5.0):
