@@ -142,6 +142,18 @@ FAULTS = [
      "src/link/fiber.cpp",
      "if (reply) w->data = std::move(*reply);",
      "if (reply) return;"),
+    ("the last caller leaving does not hand the socket back to the receive thread",
+     "src/link/reader_role.cpp",
+     "if (--callers_ == 0 && holder_ == Holder::None && !armed_) armLocked(true);",
+     "--callers_;"),
+    ("the receive thread registers its socket disarmed and never reads it",
+     "src/link/reader_role.cpp",
+     "ev.events = EPOLLONESHOT | (idle ? EPOLLIN : 0u);",
+     "ev.events = EPOLLONESHOT;"),
+    ("a reading caller files only the first record of what it read",
+     "src/link/device.cpp",
+     "    if (trace) tracePacket('<', p.cmd, p.data);",
+     "    if (&p != &packets.front()) break;\n    if (trace) tracePacket('<', p.cmd, p.data);"),
 ]
 
 

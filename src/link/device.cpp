@@ -199,22 +199,30 @@ void Device::recvLoop(Link& link) {
           report::print("AttributeError: the USB link has no client");
         pause = true;
       } else if (auto* net = dynamic_cast<NetworkClient*>(client.get())) {
+        bool registered = false;
         // A socket: read it while no caller does (link/reader_role.hpp).
-        const int fd = net->fd();
-        if (fd < 0) {
+        const bool watched = net->holdSocket([&](int fd, uint64_t id) {
+          registered = link.role.threadRegister({fd, id});
+        });
+        if (!watched || !registered) {
           pause = true;
-        } else if (link.role.threadWait(fd, net->socketId())) {
+        } else if (link.role.threadWait()) {
           struct Done {
             ReaderRole& r;
-            ~Done() { r.threadDone(); }
-          } done{link.role};
+            NetworkClient& c;
+            ~Done() {
+              if (!c.holdSocket([&](int fd, uint64_t id) {
+                    const ReaderRole::SocketRef held{fd, id};
+                    r.threadDone(&held);
+                  }))
+                r.threadDone(nullptr);
+            }
+          } done{link.role, *net};
           const auto got = net->recvWithin(link.read_size, Clock::time_point::min(), -1, raw);
           if (got == NetworkClient::Recv::Data)
             dispatch(link, *net, raw);
           else if (got == NetworkClient::Recv::Closed)
             pause = true;  // a closed peer answers every read at once
-        } else if (!net->hasSocket()) {
-          pause = true;
         }
       } else {
         raw = client->recvPacket(link.read_size);
@@ -336,19 +344,29 @@ class ExpectReply {
   explicit ExpectReply(Link* link) {
     if (!link || t_expecting || Fiber::current()) return;
     role_ = &link->role;
-    role_->enter();
+    client_ = std::dynamic_pointer_cast<NetworkClient>(link->client());
+    if (!client_ || !client_->holdSocket([this](int fd, uint64_t id) {
+          const ReaderRole::SocketRef held{fd, id};
+          role_->enter(&held);
+        }))
+      role_->enter(nullptr);
     t_expecting = role_;
   }
   ~ExpectReply() {
     if (!role_) return;
     t_expecting = nullptr;
-    role_->leave();
+    if (!client_ || !client_->holdSocket([this](int fd, uint64_t id) {
+          const ReaderRole::SocketRef held{fd, id};
+          role_->leave(&held);
+        }))
+      role_->leave(nullptr);
   }
   ExpectReply(const ExpectReply&) = delete;
   ExpectReply& operator=(const ExpectReply&) = delete;
 
  private:
   ReaderRole* role_ = nullptr;
+  std::shared_ptr<NetworkClient> client_;
 };
 
 // A wait sleeps the calling thread, or on a fiber (an awaitable call) parks

@@ -47,40 +47,46 @@ ReaderRole::~ReaderRole() {
   ::close(leader_wake_fd_);
 }
 
-void ReaderRole::armLocked(bool on) {
+void ReaderRole::armLocked(bool on, const SocketRef* held) {
+  // Only a socket the caller holds open is touched: its number cannot be
+  // closed and reused meanwhile.  One that is not held is going away; the
+  // thread registers the next socket when it comes.
+  if (!held || held->fd != sock_fd_ || held->id != sock_id_) {
+    if (!on) armed_ = false;
+    return;
+  }
   armed_ = false;
-  if (sock_fd_ < 0) return;
   epoll_event ev{};
   ev.events = EPOLLONESHOT | (on ? EPOLLIN : 0u);
   ev.data.u64 = kSocketTag;
-  // A socket closed meanwhile has left the set by itself (ENOENT, EBADF):
-  // the thread registers the next one when it comes back.
   if (::epoll_ctl(epfd_, EPOLL_CTL_MOD, sock_fd_, &ev) == 0) armed_ = on;
 }
 
-bool ReaderRole::threadWait(int fd, uint64_t socket_id) {
-  {
-    std::lock_guard lk(m_);
-    const bool idle = callers_ == 0 && holder_ == Holder::None;
-    if (fd != sock_fd_ || socket_id != sock_id_) {
-      if (sock_fd_ >= 0) ::epoll_ctl(epfd_, EPOLL_CTL_DEL, sock_fd_, nullptr);
-      epoll_event ev{};
-      ev.events = EPOLLONESHOT | (idle ? EPOLLIN : 0u);
-      ev.data.u64 = kSocketTag;
-      int rc = ::epoll_ctl(epfd_, EPOLL_CTL_ADD, fd, &ev);
-      if (rc != 0 && errno == EEXIST) rc = ::epoll_ctl(epfd_, EPOLL_CTL_MOD, fd, &ev);
-      if (rc != 0) {
-        sock_fd_ = -1;
-        armed_ = false;
-        return false;  // a socket closed under us: the caller pauses and looks again
-      }
-      sock_fd_ = fd;
-      sock_id_ = socket_id;
-      armed_ = idle;
-    } else if (idle && !armed_) {
-      armLocked(true);
-    }
+bool ReaderRole::threadRegister(const SocketRef& held) {
+  std::lock_guard lk(m_);
+  const bool idle = callers_ == 0 && holder_ == Holder::None;
+  if (held.fd == sock_fd_ && held.id == sock_id_) {
+    if (idle && !armed_) armLocked(true, &held);
+    return true;
   }
+  // A socket replaced by another was closed first and so left the set.
+  epoll_event ev{};
+  ev.events = EPOLLONESHOT | (idle ? EPOLLIN : 0u);
+  ev.data.u64 = kSocketTag;
+  int rc = ::epoll_ctl(epfd_, EPOLL_CTL_ADD, held.fd, &ev);
+  if (rc != 0 && errno == EEXIST) rc = ::epoll_ctl(epfd_, EPOLL_CTL_MOD, held.fd, &ev);
+  if (rc != 0) {
+    sock_fd_ = -1;
+    armed_ = false;
+    return false;
+  }
+  sock_fd_ = held.fd;
+  sock_id_ = held.id;
+  armed_ = idle;
+  return true;
+}
+
+bool ReaderRole::threadWait() {
   epoll_event evs[2];
   const int n = ::epoll_wait(epfd_, evs, 2, -1);
   bool input = false;
@@ -99,14 +105,14 @@ bool ReaderRole::threadWait(int fd, uint64_t socket_id) {
   return true;
 }
 
-void ReaderRole::threadDone() {
+void ReaderRole::threadDone(const SocketRef* held) {
   bool followers = false;
   {
     std::lock_guard lk(m_);
     holder_ = Holder::None;
     free_.store(true, std::memory_order_release);
     if (callers_ == 0)
-      armLocked(true);
+      armLocked(true, held);
     else
       followers = true;
   }
@@ -115,14 +121,14 @@ void ReaderRole::threadDone() {
 
 void ReaderRole::wake() { signalFd(thread_wake_fd_); }
 
-void ReaderRole::enter() {
+void ReaderRole::enter(const SocketRef* held) {
   std::lock_guard lk(m_);
-  if (++callers_ == 1 && armed_) armLocked(false);
+  if (++callers_ == 1 && armed_) armLocked(false, held);
 }
 
-void ReaderRole::leave() {
+void ReaderRole::leave(const SocketRef* held) {
   std::lock_guard lk(m_);
-  if (--callers_ == 0 && holder_ == Holder::None && !armed_) armLocked(true);
+  if (--callers_ == 0 && holder_ == Holder::None && !armed_) armLocked(true, held);
 }
 
 bool ReaderRole::tryLead() {

@@ -37,18 +37,28 @@ class ReaderRole {
   // while callers still wait.
   void setOnFree(std::function<void()> on_free) { on_free_ = std::move(on_free); }
 
+  // A socket held open by its client while the role's watch of it changes
+  // (NetworkClient::holdSocket): a number that is not held may be closed and
+  // reused under us.  The role changes the watch only through a held socket.
+  struct SocketRef {
+    int fd = -1;
+    uint64_t id = 0;  // the client's socketId: tells a reused number apart
+  };
+
   // ---- the receive thread
-  // Sleeps until socket `fd` (identified by `socket_id` across reuse of the
-  // number) has input and no caller waits, or until wake().  True: the
-  // thread holds the role and reads once, then calls threadDone().
-  bool threadWait(int fd, uint64_t socket_id);
-  void threadDone();
+  // Watches `held` (registering it when it is new); false when it cannot.
+  bool threadRegister(const SocketRef& held);
+  // Sleeps until the watched socket has input and no caller waits, or until
+  // wake().  True: the thread holds the role and reads once, then calls
+  // threadDone() (with the socket held, when it still is).
+  bool threadWait();
+  void threadDone(const SocketRef* held);
   // Ends a threadWait (close, stop, a link brought up or down).
   void wake();
 
   // ---- callers waiting for a reply
-  void enter();
-  void leave();
+  void enter(const SocketRef* held);
+  void leave(const SocketRef* held);
   // Takes the role when nobody holds it.
   bool tryLead();
   void endLead();
@@ -61,7 +71,7 @@ class ReaderRole {
   void wakeLeader();
 
  private:
-  void armLocked(bool on);
+  void armLocked(bool on, const SocketRef* held);
 
   std::mutex m_;
   enum class Holder { None, Thread, Caller } holder_ = Holder::None;

@@ -268,6 +268,24 @@ Bytes NetworkClient::recvPacket(size_t length) {
   return buf;
 }
 
+bool NetworkClient::holdSocket(const std::function<void(int fd, uint64_t id)>& fn) {
+  std::unique_lock lk(use_m_);
+  const int fd = fd_.load();
+  if (fd < 0 || closing_) return false;
+  const uint64_t id = socket_id_.load();
+  ++readers_;
+  lk.unlock();
+  struct Release {
+    NetworkClient& c;
+    ~Release() {
+      std::lock_guard lk(c.use_m_);
+      if (--c.readers_ == 0) c.use_cv_.notify_all();
+    }
+  } release{*this};
+  fn(fd, id);
+  return true;
+}
+
 NetworkClient::Recv NetworkClient::recvWithin(size_t length, SteadyTime deadline, int wake_fd,
                                               Bytes& out) {
   Use use(*this);

@@ -11,6 +11,7 @@
 #include <chrono>
 #include <condition_variable>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -70,6 +71,9 @@ class NetworkClient : public Client {
   int fd() const { return fd_.load(); }
   // Changes whenever the client takes a new socket (the number may repeat).
   uint64_t socketId() const { return socket_id_.load(); }
+  // Runs fn(fd, socketId) while the socket cannot be closed; false, without
+  // running it, when there is no socket or it is being shut.
+  bool holdSocket(const std::function<void(int fd, uint64_t id)>& fn);
   Bytes recvPacket(size_t length) override;
   // One read of at most `length` bytes that waits for the socket no longer
   // than `deadline` (a past deadline only tries), and ends early when
