@@ -18,6 +18,17 @@ namespace {
 // `s` seconds from now, saturated (see deadlineAfter): an infinite or huge
 // timeout waits for its reply, a NaN one ends at once.
 Clock::time_point fromNow(double s) { return deadlineAfter(Clock::now(), s); }
+
+// Runs fn with the client's socket held open (a reader role may change its
+// watch of it), or with nullptr when there is no socket to hold.
+template <class F>
+void withHeldSocket(NetworkClient* client, F&& fn) {
+  if (!client || !client->holdSocket([&](int fd, uint64_t id) {
+        const ReaderRole::SocketRef held{fd, id};
+        fn(&held);
+      }))
+    fn(nullptr);
+}
 }  // namespace
 
 // ---- Gate --------------------------------------------------------------------
@@ -211,11 +222,7 @@ void Device::recvLoop(Link& link) {
             ReaderRole& r;
             NetworkClient& c;
             ~Done() {
-              if (!c.holdSocket([&](int fd, uint64_t id) {
-                    const ReaderRole::SocketRef held{fd, id};
-                    r.threadDone(&held);
-                  }))
-                r.threadDone(nullptr);
+              withHeldSocket(&c, [this](const ReaderRole::SocketRef* held) { r.threadDone(held); });
             }
           } done{link.role, *net};
           const auto got = net->recvWithin(link.read_size, Clock::time_point::min(), -1, raw);
@@ -345,21 +352,15 @@ class ExpectReply {
     if (!link || t_expecting || Fiber::current()) return;
     role_ = &link->role;
     client_ = std::dynamic_pointer_cast<NetworkClient>(link->client());
-    if (!client_ || !client_->holdSocket([this](int fd, uint64_t id) {
-          const ReaderRole::SocketRef held{fd, id};
-          role_->enter(&held);
-        }))
-      role_->enter(nullptr);
+    withHeldSocket(client_.get(),
+                   [this](const ReaderRole::SocketRef* held) { role_->enter(held); });
     t_expecting = role_;
   }
   ~ExpectReply() {
     if (!role_) return;
     t_expecting = nullptr;
-    if (!client_ || !client_->holdSocket([this](int fd, uint64_t id) {
-          const ReaderRole::SocketRef held{fd, id};
-          role_->leave(&held);
-        }))
-      role_->leave(nullptr);
+    withHeldSocket(client_.get(),
+                   [this](const ReaderRole::SocketRef* held) { role_->leave(held); });
   }
   ExpectReply(const ExpectReply&) = delete;
   ExpectReply& operator=(const ExpectReply&) = delete;
