@@ -5,7 +5,7 @@ from __future__ import annotations
 import collections.abc
 import typing
 from . import _sim
-__all__: list[str] = ['AHRSModeNotAvaliableError', 'AHRSPortNotAvaliableError', 'AHRSQueueOverflowWarning', 'AHRS_START', 'AICSNotAvaliableError', 'AIChannelNotAvaliableError', 'AIModeNotAvaliableError', 'AIPortNotAvaliableError', 'AIQueueOverflowWarning', 'AIRateNotVaildError', 'AOChannelNotAvaliableError', 'AOFormNotAvaliableError', 'AOModeNotVaildError', 'AOPortNotAvaliableError', 'AORateNotVaildError', 'AOSpanNotVaildError', 'APINotSupportError', 'BROADCAST_CMD_LIST', 'BroadcastDevice', 'BroadcastModule', 'CANDataLengthNotVaildError', 'CANPortNotAvaliableError', 'CANQueueOverflowWarning', 'CANSpeedNotVaildError', 'CANTXNotVaildError', 'CANTXPriorityNotVaildError', 'CHECK_MAC_AND_REBOOT', 'CHECK_MAC_AND_SET_IP', 'CMD_CR', 'CMD_CR_2', 'CMD_INDEX', 'CMD_INDEX_2', 'CMD_LF', 'CMD_LF_2', 'CMD_STX', 'CMD_STX_2', 'CONNECTION_TIMEOUT', 'Client', 'CounterChannelNotAvaliableError', 'CounterModule', 'DIOModule', 'DIPortNotAvaliableError', 'DOPortNotAvaliableError', 'DPOTChannelNotAvaliableError', 'DPOTModule', 'DPOTPortNotAvaliableError', 'Device', 'DeviceClosedError', 'DeviceFinder', 'ECHO_DELAY', 'ETHDevice', 'Error', 'ExtLibNotFoundWarning', 'FirmwareAIError', 'FirmwareAOError', 'FirmwareBootloaderError', 'FirmwareCANError', 'FirmwareCoreError', 'FirmwareDIOError', 'FirmwareDriveError', 'FirmwareEEPROMError', 'FirmwareEnableError', 'FirmwareEncoderError', 'FirmwareHALIndexError', 'FirmwareI2CError', 'FirmwareMotionError', 'FirmwareOLEDError', 'FirmwareORVIndexError', 'FirmwareOtherError', 'FirmwarePWMError', 'FirmwareParserError', 'FirmwarePinIndexError', 'FirmwarePulseError', 'FirmwareRTCError', 'FirmwareRelayError', 'FirmwareSPIError', 'FirmwareTCPError', 'FirmwareTIMError', 'FirmwareThermalError', 'FirmwareUARTError', 'FirmwareUDPError', 'FirmwareUSBError', 'GET_DEVICE_INFO', 'GET_DRIVER_INFO', 'HANDLE_DICT', 'HANDLE_LIST', 'HeronAin', 'HeronAinImu', 'HeronAinPlus', 'I2CAddressSizeNotVaildError', 'I2CClockNotSupportError', 'I2CPortNotAvaliableError', 'IniFileExtensionNameError', 'IniFileNotFoundError', 'InputDataNotInRangeError', 'InputTypeNotConsistentError', 'InputTypeNotCorrectError', 'KestrelAin', 'KestrelAout', 'KestrelCin', 'KestrelCvin', 'KestrelDio', 'KestrelDioX', 'KestrelRelay', 'KestrelRes', 'KestrelTherm', 'LABEL_DICT', 'LinkNotOpenError', 'MOTION', 'MRDRPortNotAvaliable', 'MerlinAxis', 'MerlinDrive', 'MotionAccelerationModeError', 'MotionAxisError', 'MotionBreakPointModeError', 'MotionCaptureModeError', 'MotionCaptureTypeError', 'MotionDirectionError', 'MotionEnableError', 'MotionOperationModeError', 'MotionPolarityError', 'MotionPortNotAvaliable', 'MotionSearchDirectionError', 'MotionSearchTypeError', 'MotionStepperOutputError', 'MotionStopModeError', 'NUM_BCST_RETRIES', 'NUM_RETRIES', 'NetworkClient', 'NetworkConnectionError', 'NetworkConnectionLostError', 'NetworkDevice', 'NetworkModule', 'OPEN_CAN', 'ORVWarning', 'PACKET_TIMEOUT', 'PRODUCT_LIST', 'PWMChannelNotAvaliableError', 'PWMModule', 'PinsNotExistError', 'PinsValueNotDefineError', 'PloverAin', 'PloverAio', 'PloverCan', 'PloverDio', 'PloverRtd', 'PloverSink', 'PloverTc', 'QUEUE_SIZE_MAX', 'QUEUE_TIMEOUT', 'RETRY_TIMEOUT', 'ReceivePacketTimeoutError', 'RelayCounterIndexError', 'RelayModule', 'ReplyFormatError', 'SPIDataLengthExceedMaxError', 'SPIDataSizeNotVaildError', 'SPIFirstBitNotVaildError', 'SPIModeNotVaildError', 'SPIPortNotAvaliableError', 'SPIPrescalerNotVaildError', 'START_AI_STREAMING', 'START_AI_STREAMING_VARIABLE', 'START_AO_STREAMING', 'START_CAN', 'START_MOTION_MONITORING', 'START_UART_READING', 'STREAMING_CMD_LIST', 'StreamQueue', 'SystemAnalogModule', 'SystemModule', 'TCPClient', 'TCP_CMD_PORT', 'TCP_DATA_LENGTH_MAX', 'TCP_DATA_PORT', 'TCP_PKT_LENGTH_MAX', 'ThermalChipSelectNotAvaliableError', 'ThermalModeNotVaildError', 'ThermalPortNotAvaliableError', 'ThermalTypeNotVaildError', 'Trellis', 'TrellisLite', 'TrellisPortNotAvaliableError', 'UARTBaudRateNotSupportError', 'UARTDataBitNotSupportError', 'UARTExceedMaxLengthError', 'UARTParityNotSupportError', 'UARTPortNotAvaliableError', 'UARTQueueOverflowWarning', 'UARTStopBitNotSupportError', 'UDPClient', 'UDP_PKT_LENGTH_MAX', 'UDP_RECV_PORT', 'UDP_SEND_PORT', 'USBClient', 'USBConnectionError', 'USBDevice', 'USB_61E_PLUS_PID', 'USB_61E_PLUS_VID', 'USB_61E_RECEIVE_BYTE', 'USB_61E_RECEIVE_TIMEOUT', 'USB_61E_RECEIVE_TOTAL_BYTES', 'USB_EP_IN', 'USB_EP_OUT', 'USB_PID', 'USB_PKT_SIZE', 'USB_VID', 'WifiDevice', 'WifiModule', 'adjustDataList', 'changeToTrellisPort', 'checkEachItemInRange', 'checkFirmwareError', 'checkFuncPinMap', 'checkInputType', 'checkInputTypeConsistent', 'checkPinMap', 'clearBit', 'coerce', 'convert2U8ToI16', 'convert2U8ToU16', 'convert4U8ToF32', 'convert4U8ToI32', 'convert4U8ToU32', 'convert8U8ToF64', 'convert8U8ToI64', 'convert8U8ToU64', 'convertF32To4U8', 'convertF64To8U8', 'convertI16To2U8', 'convertI32To4U8', 'convertI64To8U8', 'convertIPAddrTo4U8', 'convertIndexAndBinaryListsToInt', 'convertIndexListToInt', 'convertIntToBinaryList', 'convertIntToIndexList', 'convertMACAddrTo6U8', 'convertStrToU8List', 'convertU16To2U8', 'convertU32To4U8', 'convertU64To8U8', 'convertU8ListToStr', 'errAHRSMode', 'errAHRSPort', 'errAIChannel', 'errAIChip', 'errAIMode', 'errAIPort', 'errAIRate', 'errAOChannel', 'errAOForm', 'errAOMode', 'errAOPort', 'errAORate', 'errAOSpan', 'errAPINotSupport', 'errCANDataLength', 'errCANPort', 'errCANSpeed', 'errCANTX', 'errCANTXPriority', 'errCounterchannel', 'errDIPort', 'errDOPort', 'errDPOTChannel', 'errDPOTPort', 'errDeviceClosed', 'errFirmwareAI', 'errFirmwareAO', 'errFirmwareBootloader', 'errFirmwareCAN', 'errFirmwareCore', 'errFirmwareDIO', 'errFirmwareDrive', 'errFirmwareEEPROM', 'errFirmwareEnable', 'errFirmwareEncoder', 'errFirmwareHALIndex', 'errFirmwareI2C', 'errFirmwareMotion', 'errFirmwareOLED', 'errFirmwareORVIndex', 'errFirmwareOther', 'errFirmwarePWM', 'errFirmwareParser', 'errFirmwarePinIndex', 'errFirmwarePulse', 'errFirmwareRTC', 'errFirmwareRelay', 'errFirmwareSPI', 'errFirmwareTCP', 'errFirmwareTIM', 'errFirmwareThermal', 'errFirmwareUART', 'errFirmwareUDP', 'errFirmwareUSB', 'errI2CAddressSize', 'errI2CClock', 'errI2CPort', 'errIniFileName', 'errIniFileNotFound', 'errInputDataNotInRange', 'errInputTypeNotConsistent', 'errInputTypeNotCorrect', 'errLinkNotOpen', 'errMotionAccelerationMode', 'errMotionAxis', 'errMotionBreakPoint', 'errMotionCaptureMode', 'errMotionCaptureType', 'errMotionDirection', 'errMotionEnable', 'errMotionOperationMode', 'errMotionPolarity', 'errMotionPort', 'errMotionSearchDirection', 'errMotionSearchType', 'errMotionStepperOutput', 'errMotionStopMode', 'errNetConnection', 'errNetConnectionLost', 'errPWMchannel', 'errPacketTimeout', 'errPinsNotExist', 'errPinsValueNotDefine', 'errRelayIndex', 'errReplyFormat', 'errSPIDataLengthExceedMax', 'errSPIDataSize', 'errSPIFirstBit', 'errSPIMode', 'errSPIPort', 'errSPIPrescaler', 'errThermalChipSelect', 'errThermalMode', 'errThermalPort', 'errThermalType', 'errTrellisSlot', 'errUARTBaudRate', 'errUARTDataBit', 'errUARTExceedMaxLength', 'errUARTParity', 'errUARTPort', 'errUARTStopBit', 'errUSBConnection', 'fillBit', 'printGenericError', 'readBit', 'warnAHRSOverflow', 'warnAIOverflow', 'warnCANOverflow', 'warnLibNotFound', 'warnUARTOverflow', 'writeBit']
+__all__: list[str] = ['AHRSModeNotAvaliableError', 'AHRSPortNotAvaliableError', 'AHRSQueueOverflowWarning', 'AHRS_START', 'AICSNotAvaliableError', 'AIChannelNotAvaliableError', 'AIModeNotAvaliableError', 'AIPortNotAvaliableError', 'AIQueueOverflowWarning', 'AIRateNotVaildError', 'AOChannelNotAvaliableError', 'AOFormNotAvaliableError', 'AOModeNotVaildError', 'AOPortNotAvaliableError', 'AORateNotVaildError', 'AOSpanNotVaildError', 'APINotSupportError', 'BROADCAST_CMD_LIST', 'BroadcastDevice', 'BroadcastModule', 'CANDataLengthNotVaildError', 'CANPortNotAvaliableError', 'CANQueueOverflowWarning', 'CANSpeedNotVaildError', 'CANTXNotVaildError', 'CANTXPriorityNotVaildError', 'CHECK_MAC_AND_REBOOT', 'CHECK_MAC_AND_SET_IP', 'CMD_CR', 'CMD_CR_2', 'CMD_INDEX', 'CMD_INDEX_2', 'CMD_LF', 'CMD_LF_2', 'CMD_STX', 'CMD_STX_2', 'CONNECTION_TIMEOUT', 'Client', 'CounterChannelNotAvaliableError', 'CounterModule', 'DIOModule', 'DIPortNotAvaliableError', 'DOPortNotAvaliableError', 'DPOTChannelNotAvaliableError', 'DPOTModule', 'DPOTPortNotAvaliableError', 'Device', 'DeviceClosedError', 'DeviceFinder', 'ECHO_DELAY', 'ETHDevice', 'Error', 'ExtLibNotFoundWarning', 'FirmwareAIError', 'FirmwareAOError', 'FirmwareBootloaderError', 'FirmwareCANError', 'FirmwareCoreError', 'FirmwareDIOError', 'FirmwareDriveError', 'FirmwareEEPROMError', 'FirmwareEnableError', 'FirmwareEncoderError', 'FirmwareHALIndexError', 'FirmwareI2CError', 'FirmwareMotionError', 'FirmwareOLEDError', 'FirmwareORVIndexError', 'FirmwareOtherError', 'FirmwarePWMError', 'FirmwareParserError', 'FirmwarePinIndexError', 'FirmwarePulseError', 'FirmwareRTCError', 'FirmwareRelayError', 'FirmwareSPIError', 'FirmwareTCPError', 'FirmwareTIMError', 'FirmwareThermalError', 'FirmwareUARTError', 'FirmwareUDPError', 'FirmwareUSBError', 'GET_DEVICE_INFO', 'GET_DRIVER_INFO', 'HANDLE_DICT', 'HANDLE_LIST', 'HeronAin', 'HeronAinImu', 'HeronAinPlus', 'I2CAddressSizeNotVaildError', 'I2CClockNotSupportError', 'I2CModule', 'I2CPortNotAvaliableError', 'IniFileExtensionNameError', 'IniFileNotFoundError', 'InputDataNotInRangeError', 'InputTypeNotConsistentError', 'InputTypeNotCorrectError', 'KestrelAin', 'KestrelAout', 'KestrelCin', 'KestrelCvin', 'KestrelDio', 'KestrelDioX', 'KestrelRelay', 'KestrelRes', 'KestrelTherm', 'LABEL_DICT', 'LinkNotOpenError', 'MOTION', 'MRDRPortNotAvaliable', 'MerlinAxis', 'MerlinDrive', 'MotionAccelerationModeError', 'MotionAxisError', 'MotionBreakPointModeError', 'MotionCaptureModeError', 'MotionCaptureTypeError', 'MotionDirectionError', 'MotionEnableError', 'MotionOperationModeError', 'MotionPolarityError', 'MotionPortNotAvaliable', 'MotionSearchDirectionError', 'MotionSearchTypeError', 'MotionStepperOutputError', 'MotionStopModeError', 'NUM_BCST_RETRIES', 'NUM_RETRIES', 'NetworkClient', 'NetworkConnectionError', 'NetworkConnectionLostError', 'NetworkDevice', 'NetworkModule', 'OPEN_CAN', 'ORVWarning', 'PACKET_TIMEOUT', 'PRODUCT_LIST', 'PWMChannelNotAvaliableError', 'PWMModule', 'PinsNotExistError', 'PinsValueNotDefineError', 'PloverAin', 'PloverAio', 'PloverCan', 'PloverDio', 'PloverRtd', 'PloverSink', 'PloverTc', 'QUEUE_SIZE_MAX', 'QUEUE_TIMEOUT', 'RETRY_TIMEOUT', 'ReceivePacketTimeoutError', 'RelayCounterIndexError', 'RelayModule', 'ReplyFormatError', 'SPIDataLengthExceedMaxError', 'SPIDataSizeNotVaildError', 'SPIFirstBitNotVaildError', 'SPIModeNotVaildError', 'SPIModule', 'SPIPortNotAvaliableError', 'SPIPrescalerNotVaildError', 'START_AI_STREAMING', 'START_AI_STREAMING_VARIABLE', 'START_AO_STREAMING', 'START_CAN', 'START_MOTION_MONITORING', 'START_UART_READING', 'STREAMING_CMD_LIST', 'StreamQueue', 'SystemAnalogModule', 'SystemModule', 'TCPClient', 'TCP_CMD_PORT', 'TCP_DATA_LENGTH_MAX', 'TCP_DATA_PORT', 'TCP_PKT_LENGTH_MAX', 'ThermalChipSelectNotAvaliableError', 'ThermalModeNotVaildError', 'ThermalPortNotAvaliableError', 'ThermalTypeNotVaildError', 'Trellis', 'TrellisLite', 'TrellisPortNotAvaliableError', 'UARTBaudRateNotSupportError', 'UARTDataBitNotSupportError', 'UARTExceedMaxLengthError', 'UARTParityNotSupportError', 'UARTPortNotAvaliableError', 'UARTQueueOverflowWarning', 'UARTStopBitNotSupportError', 'UDPClient', 'UDP_PKT_LENGTH_MAX', 'UDP_RECV_PORT', 'UDP_SEND_PORT', 'USBClient', 'USBConnectionError', 'USBDevice', 'USB_61E_PLUS_PID', 'USB_61E_PLUS_VID', 'USB_61E_RECEIVE_BYTE', 'USB_61E_RECEIVE_TIMEOUT', 'USB_61E_RECEIVE_TOTAL_BYTES', 'USB_EP_IN', 'USB_EP_OUT', 'USB_PID', 'USB_PKT_SIZE', 'USB_VID', 'WifiDevice', 'WifiModule', 'adjustDataList', 'changeToTrellisPort', 'checkEachItemInRange', 'checkFirmwareError', 'checkFuncPinMap', 'checkInputType', 'checkInputTypeConsistent', 'checkPinMap', 'clearBit', 'coerce', 'convert2U8ToI16', 'convert2U8ToU16', 'convert4U8ToF32', 'convert4U8ToI32', 'convert4U8ToU32', 'convert8U8ToF64', 'convert8U8ToI64', 'convert8U8ToU64', 'convertF32To4U8', 'convertF64To8U8', 'convertI16To2U8', 'convertI32To4U8', 'convertI64To8U8', 'convertIPAddrTo4U8', 'convertIndexAndBinaryListsToInt', 'convertIndexListToInt', 'convertIntToBinaryList', 'convertIntToIndexList', 'convertMACAddrTo6U8', 'convertStrToU8List', 'convertU16To2U8', 'convertU32To4U8', 'convertU64To8U8', 'convertU8ListToStr', 'errAHRSMode', 'errAHRSPort', 'errAIChannel', 'errAIChip', 'errAIMode', 'errAIPort', 'errAIRate', 'errAOChannel', 'errAOForm', 'errAOMode', 'errAOPort', 'errAORate', 'errAOSpan', 'errAPINotSupport', 'errCANDataLength', 'errCANPort', 'errCANSpeed', 'errCANTX', 'errCANTXPriority', 'errCounterchannel', 'errDIPort', 'errDOPort', 'errDPOTChannel', 'errDPOTPort', 'errDeviceClosed', 'errFirmwareAI', 'errFirmwareAO', 'errFirmwareBootloader', 'errFirmwareCAN', 'errFirmwareCore', 'errFirmwareDIO', 'errFirmwareDrive', 'errFirmwareEEPROM', 'errFirmwareEnable', 'errFirmwareEncoder', 'errFirmwareHALIndex', 'errFirmwareI2C', 'errFirmwareMotion', 'errFirmwareOLED', 'errFirmwareORVIndex', 'errFirmwareOther', 'errFirmwarePWM', 'errFirmwareParser', 'errFirmwarePinIndex', 'errFirmwarePulse', 'errFirmwareRTC', 'errFirmwareRelay', 'errFirmwareSPI', 'errFirmwareTCP', 'errFirmwareTIM', 'errFirmwareThermal', 'errFirmwareUART', 'errFirmwareUDP', 'errFirmwareUSB', 'errI2CAddressSize', 'errI2CClock', 'errI2CPort', 'errIniFileName', 'errIniFileNotFound', 'errInputDataNotInRange', 'errInputTypeNotConsistent', 'errInputTypeNotCorrect', 'errLinkNotOpen', 'errMotionAccelerationMode', 'errMotionAxis', 'errMotionBreakPoint', 'errMotionCaptureMode', 'errMotionCaptureType', 'errMotionDirection', 'errMotionEnable', 'errMotionOperationMode', 'errMotionPolarity', 'errMotionPort', 'errMotionSearchDirection', 'errMotionSearchType', 'errMotionStepperOutput', 'errMotionStopMode', 'errNetConnection', 'errNetConnectionLost', 'errPWMchannel', 'errPacketTimeout', 'errPinsNotExist', 'errPinsValueNotDefine', 'errRelayIndex', 'errReplyFormat', 'errSPIDataLengthExceedMax', 'errSPIDataSize', 'errSPIFirstBit', 'errSPIMode', 'errSPIPort', 'errSPIPrescaler', 'errThermalChipSelect', 'errThermalMode', 'errThermalPort', 'errThermalType', 'errTrellisSlot', 'errUARTBaudRate', 'errUARTDataBit', 'errUARTExceedMaxLength', 'errUARTParity', 'errUARTPort', 'errUARTStopBit', 'errUSBConnection', 'fillBit', 'printGenericError', 'readBit', 'warnAHRSOverflow', 'warnAIOverflow', 'warnCANOverflow', 'warnLibNotFound', 'warnUARTOverflow', 'writeBit']
 class Error(Exception):
     """
     The driver's errors: each class has its fixed code and default message.
@@ -3025,6 +3025,294 @@ class DPOTModule:
         ...
     def _checkDPOTPort(self, port: typing.Any) -> bool:
         ...
+class I2CModule:
+    """
+    The device as an I2C master: open a port, set its clock rate and address size, read and write bytes at an address.
+    """
+    def I2C_close(self, port: int, timeout: float = 3) -> int:
+        """
+        Closes an I2C port.
+        
+        Args:
+            port (int): I2C port, a key of I2C_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            I2CPortNotAvaliableError: port is not a key of I2C_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def I2C_close_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable I2C_close, without timeout: Closes an I2C port.
+        
+        Args:
+            port (int): I2C port, a key of I2C_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            I2CPortNotAvaliableError: port is not a key of I2C_dict.
+        """
+    def I2C_getPinMap(self) -> dict[int, list[tuple[int, int]]]:
+        """
+        The I2C ports and the pins they occupy; nothing is sent.
+        
+        Returns:
+            dict[int, list[tuple[int, int]]]: I2C_dict: port -> [(digital port, pin), ...]
+        """
+    def I2C_getPinMap_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, dict[int, list[tuple[int, int]]]]:
+        """
+        Awaitable I2C_getPinMap, without timeout: The I2C ports and the pins they occupy; nothing is sent.
+        
+        Returns:
+            dict[int, list[tuple[int, int]]]: I2C_dict: port -> [(digital port, pin), ...]
+        """
+    def I2C_open(self, port: int, timeout: float = 3) -> int:
+        """
+        Opens an I2C port.
+        
+        Args:
+            port (int): I2C port, a key of I2C_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code; after reading the pin modes of the port's digital ports (Sys_getPinModeInPort), I2CPortNotAvaliableError for a pin in a mode other than Idle, DI or DO, before OPEN_I2C is sent
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            I2CPortNotAvaliableError: port is not a key of I2C_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def I2C_open_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable I2C_open, without timeout: Opens an I2C port.
+        
+        Args:
+            port (int): I2C port, a key of I2C_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code; after reading the pin modes of the port's digital ports (Sys_getPinModeInPort), I2CPortNotAvaliableError for a pin in a mode other than Idle, DI or DO, before OPEN_I2C is sent
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            I2CPortNotAvaliableError: port is not a key of I2C_dict.
+        """
+    def I2C_read(self, port: int, read_address: int, bytes_to_read: int, timeout: float = 3) -> list[int]:
+        """
+        Reads bytes from a slave.
+        
+        Args:
+            port (int): I2C port, a key of I2C_dict
+            read_address (int): the slave's address byte
+            bytes_to_read (int): how many bytes, 0..255
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: the bytes read; a failed read gives a short or empty list (no status)
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: an argument that is not an int.
+            I2CPortNotAvaliableError: port is not a key of I2C_dict.
+            ValueError: read_address or bytes_to_read outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def I2C_read_async(self, port: int, read_address: int, bytes_to_read: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable I2C_read, without timeout: Reads bytes from a slave.
+        
+        Args:
+            port (int): I2C port, a key of I2C_dict
+            read_address (int): the slave's address byte
+            bytes_to_read (int): how many bytes, 0..255
+        
+        Returns:
+            list[int]: the bytes read; a failed read gives a short or empty list (no status)
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: an argument that is not an int.
+            I2CPortNotAvaliableError: port is not a key of I2C_dict.
+            ValueError: read_address or bytes_to_read outside 0..255.
+        """
+    def I2C_reset(self, port: int, timeout: float = 3) -> int:
+        """
+        Resets an I2C port.
+        
+        Args:
+            port (int): I2C port, a key of I2C_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            I2CPortNotAvaliableError: port is not a key of I2C_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def I2C_reset_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable I2C_reset, without timeout: Resets an I2C port.
+        
+        Args:
+            port (int): I2C port, a key of I2C_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            I2CPortNotAvaliableError: port is not a key of I2C_dict.
+        """
+    def I2C_setAddressSize(self, port: int, mode: int, timeout: float = 3) -> int:
+        """
+        Sets the address size of an I2C port.
+        
+        Args:
+            port (int): I2C port, a key of I2C_dict
+            mode (int): 0 or 1, passed on to the firmware
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            I2CPortNotAvaliableError: port is not a key of I2C_dict.
+            I2CAddressSizeNotVaildError: mode is not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def I2C_setAddressSize_async(self, port: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable I2C_setAddressSize, without timeout: Sets the address size of an I2C port.
+        
+        Args:
+            port (int): I2C port, a key of I2C_dict
+            mode (int): 0 or 1, passed on to the firmware
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            I2CPortNotAvaliableError: port is not a key of I2C_dict.
+            I2CAddressSizeNotVaildError: mode is not 0 or 1.
+        """
+    def I2C_setClockRate(self, port: int, mode: int, timeout: float = 3) -> int:
+        """
+        Sets the clock rate of an I2C port.
+        
+        Args:
+            port (int): I2C port, a key of I2C_dict
+            mode (int): 0: 100 kHz, 1: 400 kHz, 2: 1 MHz, 3: 3.4 MHz
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            I2CPortNotAvaliableError: port is not a key of I2C_dict.
+            I2CClockNotSupportError: mode is not 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def I2C_setClockRate_async(self, port: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable I2C_setClockRate, without timeout: Sets the clock rate of an I2C port.
+        
+        Args:
+            port (int): I2C port, a key of I2C_dict
+            mode (int): 0: 100 kHz, 1: 400 kHz, 2: 1 MHz, 3: 3.4 MHz
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            I2CPortNotAvaliableError: port is not a key of I2C_dict.
+            I2CClockNotSupportError: mode is not 0..3.
+        """
+    def I2C_write(self, port: int, write_address: int, write_data: list[int], timeout: float = 3) -> int:
+        """
+        Writes bytes to a slave.
+        
+        Args:
+            port (int): I2C port, a key of I2C_dict
+            write_address (int): the slave's address byte
+            write_data (list[int]): the bytes, each 0..255; their count goes out as one byte
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or write_address is not an int, or write_data is not a list.
+            I2CPortNotAvaliableError: port is not a key of I2C_dict.
+            ValueError: an address, byte or count outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def I2C_write_async(self, port: int, write_address: int, write_data: list[int]) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable I2C_write, without timeout: Writes bytes to a slave.
+        
+        Args:
+            port (int): I2C port, a key of I2C_dict
+            write_address (int): the slave's address byte
+            write_data (list[int]): the bytes, each 0..255; their count goes out as one byte
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or write_address is not an int, or write_data is not a list.
+            I2CPortNotAvaliableError: port is not a key of I2C_dict.
+            ValueError: an address, byte or count outside 0..255.
+        """
+    def _I2C_getPinMapPort(self, I2C_port: typing.Any) -> list[int]:
+        """
+        The digital ports the pins of an I2C port lie on, each once.
+        """
+    def _checkI2CAddressSize(self, mode: typing.Any) -> None:
+        ...
+    def _checkI2CClockRate(self, mode: typing.Any) -> None:
+        ...
+    def _checkI2CPinState(self, port: int, allow_state: collections.abc.Sequence[str], timeout: float = 3) -> None:
+        """
+        Reads the pin modes of the port's digital ports and tests every pin of the port.
+        
+        Args:
+            port (int): I2C port, a key of I2C_dict (not checked for its type)
+            allow_state (collections.abc.Sequence[str]): mode names a pin may be in, e.g. ['Idle', 'DI', 'DO']
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            None: None; I2CPortNotAvaliableError for a pin in another mode
+        
+        Raises, before anything is sent:
+            KeyError: port is not a key of I2C_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _checkI2CPinState_async(self, port: int, allow_state: collections.abc.Sequence[str]) -> collections.abc.Coroutine[typing.Any, typing.Any, None]:
+        """
+        Awaitable _checkI2CPinState, without timeout: Reads the pin modes of the port's digital ports and tests every pin of the port.
+        
+        Args:
+            port (int): I2C port, a key of I2C_dict (not checked for its type)
+            allow_state (collections.abc.Sequence[str]): mode names a pin may be in, e.g. ['Idle', 'DI', 'DO']
+        
+        Returns:
+            None: None; I2CPortNotAvaliableError for a pin in another mode
+        
+        Raises, before anything is sent:
+            KeyError: port is not a key of I2C_dict.
+        """
+    def _checkI2CPort(self, port: typing.Any) -> None:
+        ...
 class NetworkModule:
     """
     A network device's own addressing: IP address, mask, gateway, MAC.
@@ -3538,6 +3826,456 @@ class RelayModule:
             RelayCounterIndexError: index is not in -1..5.
         """
     def _checkRelayindex(self, index: typing.Any) -> bool:
+        ...
+class SPIModule:
+    """
+    The device as an SPI master: open a port, set mode, data size, bit order and prescaler, read, write or exchange bytes.  Chip select is an ordinary digital output.
+    """
+    def SPI_close(self, port: int, timeout: float = 3) -> int:
+        """
+        Closes an SPI port.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def SPI_close_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable SPI_close, without timeout: Closes an SPI port.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+        """
+    def SPI_getPinMap(self) -> dict[int, list[tuple[int, int]]]:
+        """
+        The SPI ports and the pins they occupy; nothing is sent.
+        
+        Returns:
+            dict[int, list[tuple[int, int]]]: SPI_dict: port -> [(digital port, pin), ...]
+        """
+    def SPI_getPinMap_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, dict[int, list[tuple[int, int]]]]:
+        """
+        Awaitable SPI_getPinMap, without timeout: The SPI ports and the pins they occupy; nothing is sent.
+        
+        Returns:
+            dict[int, list[tuple[int, int]]]: SPI_dict: port -> [(digital port, pin), ...]
+        """
+    def SPI_open(self, port: int, timeout: float = 3) -> int:
+        """
+        Opens an SPI port.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code; after reading the pin modes of the port's digital ports (Sys_getPinModeInPort), SPIPortNotAvaliableError for a pin in a mode other than Idle, DI or DO, before OPEN_SPI is sent
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def SPI_open_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable SPI_open, without timeout: Opens an SPI port.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code; after reading the pin modes of the port's digital ports (Sys_getPinModeInPort), SPIPortNotAvaliableError for a pin in a mode other than Idle, DI or DO, before OPEN_SPI is sent
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+        """
+    def SPI_read(self, port: int, bytes_to_read: int, timeout: float = 3) -> list[int]:
+        """
+        Reads bytes.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+            bytes_to_read (int): how many bytes, 0..255
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: the bytes read (no status: a failure gives a short or empty list)
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or bytes_to_read is not an int.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+            ValueError: bytes_to_read outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def SPI_readAndWrite(self, port: int, write_data: list[int], timeout: float = 3) -> list[int]:
+        """
+        Writes bytes and reads as many at once.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+            write_data (list[int]): the bytes, each 0..255; their count goes out as one byte
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: the bytes read while writing (no status)
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or write_data is not a list.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+            ValueError: a byte or the count outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def SPI_readAndWrite_async(self, port: int, write_data: list[int]) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable SPI_readAndWrite, without timeout: Writes bytes and reads as many at once.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+            write_data (list[int]): the bytes, each 0..255; their count goes out as one byte
+        
+        Returns:
+            list[int]: the bytes read while writing (no status)
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or write_data is not a list.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+            ValueError: a byte or the count outside 0..255.
+        """
+    def SPI_read_async(self, port: int, bytes_to_read: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable SPI_read, without timeout: Reads bytes.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+            bytes_to_read (int): how many bytes, 0..255
+        
+        Returns:
+            list[int]: the bytes read (no status: a failure gives a short or empty list)
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or bytes_to_read is not an int.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+            ValueError: bytes_to_read outside 0..255.
+        """
+    def SPI_reset(self, port: int, timeout: float = 3) -> int:
+        """
+        Resets an SPI port.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def SPI_reset_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable SPI_reset, without timeout: Resets an SPI port.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+        """
+    def SPI_setDataSize(self, port: int, mode: int, timeout: float = 3) -> int:
+        """
+        Sets the data size of an SPI port.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+            mode (int): 0 or 1, passed on to the firmware
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+            InputTypeNotCorrectError: mode is not an int.
+            SPIDataSizeNotVaildError: mode is not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def SPI_setDataSize_async(self, port: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable SPI_setDataSize, without timeout: Sets the data size of an SPI port.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+            mode (int): 0 or 1, passed on to the firmware
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+            InputTypeNotCorrectError: mode is not an int.
+            SPIDataSizeNotVaildError: mode is not 0 or 1.
+        """
+    def SPI_setFirstBit(self, port: int, mode: int, timeout: float = 3) -> int:
+        """
+        Sets the bit order of an SPI port.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+            mode (int): 0 or 1, passed on to the firmware
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+            InputTypeNotCorrectError: mode is not an int.
+            SPIFirstBitNotVaildError: mode is not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def SPI_setFirstBit_async(self, port: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable SPI_setFirstBit, without timeout: Sets the bit order of an SPI port.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+            mode (int): 0 or 1, passed on to the firmware
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+            InputTypeNotCorrectError: mode is not an int.
+            SPIFirstBitNotVaildError: mode is not 0 or 1.
+        """
+    def SPI_setMode(self, port: int, mode: int, timeout: float = 3) -> int:
+        """
+        Sets clock polarity and phase: SET_SPI_CPOL, then SET_SPI_CPHA.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+            mode (int): 0: CPOL 0 CPHA 0, 1: 0 1, 2: 1 0, 3: 1 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the two statuses or'ed bit by bit: 0 when both succeed
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+            InputTypeNotCorrectError: mode is not an int.
+            SPIModeNotVaildError: mode is not 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def SPI_setMode_async(self, port: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable SPI_setMode, without timeout: Sets clock polarity and phase: SET_SPI_CPOL, then SET_SPI_CPHA.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+            mode (int): 0: CPOL 0 CPHA 0, 1: 0 1, 2: 1 0, 3: 1 1
+        
+        Returns:
+            int: the two statuses or'ed bit by bit: 0 when both succeed
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+            InputTypeNotCorrectError: mode is not an int.
+            SPIModeNotVaildError: mode is not 0..3.
+        """
+    def SPI_setPrescaler(self, port: int, prescaler: int, timeout: float = 3) -> int:
+        """
+        Sets the clock prescaler of an SPI port.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+            prescaler (int): 2, 4, 8, 16, 32, 64, 128 or 256
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+            InputTypeNotCorrectError: prescaler is not an int.
+            SPIPrescalerNotVaildError: prescaler is not 2, 4, 8, ... 256.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def SPI_setPrescaler_async(self, port: int, prescaler: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable SPI_setPrescaler, without timeout: Sets the clock prescaler of an SPI port.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+            prescaler (int): 2, 4, 8, 16, 32, 64, 128 or 256
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+            InputTypeNotCorrectError: prescaler is not an int.
+            SPIPrescalerNotVaildError: prescaler is not 2, 4, 8, ... 256.
+        """
+    def SPI_write(self, port: int, write_data: list[int], timeout: float = 3) -> int:
+        """
+        Writes bytes.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+            write_data (list[int]): the bytes, each 0..255; their count goes out as one byte
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or write_data is not a list.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+            ValueError: a byte or the count outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def SPI_write_async(self, port: int, write_data: list[int]) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable SPI_write, without timeout: Writes bytes.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict
+            write_data (list[int]): the bytes, each 0..255; their count goes out as one byte
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or write_data is not a list.
+            SPIPortNotAvaliableError: port is not a key of SPI_dict.
+            ValueError: a byte or the count outside 0..255.
+        """
+    def _SPI_getPinMapPort(self, SPI_port: typing.Any) -> list[int]:
+        """
+        The digital ports the pins of an SPI port lie on, each once.
+        """
+    def _SPI_setCPHA(self, port: int, phase: int, timeout: float = 3) -> int:
+        """
+        Sends SET_SPI_CPHA; nothing is checked.
+        
+        Args:
+            port (int): SPI port (not checked)
+            phase (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _SPI_setCPHA_async(self, port: int, phase: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _SPI_setCPHA, without timeout: Sends SET_SPI_CPHA; nothing is checked.
+        
+        Args:
+            port (int): SPI port (not checked)
+            phase (int): 0 or 1
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        """
+    def _SPI_setCPOL(self, port: int, polarity: int, timeout: float = 3) -> int:
+        """
+        Sends SET_SPI_CPOL; nothing is checked.
+        
+        Args:
+            port (int): SPI port (not checked)
+            polarity (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _SPI_setCPOL_async(self, port: int, polarity: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _SPI_setCPOL, without timeout: Sends SET_SPI_CPOL; nothing is checked.
+        
+        Args:
+            port (int): SPI port (not checked)
+            polarity (int): 0 or 1
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        """
+    def _checkSPIDataSize(self, mode: typing.Any) -> None:
+        ...
+    def _checkSPIFirstBit(self, mode: typing.Any) -> None:
+        ...
+    def _checkSPIMode(self, mode: typing.Any) -> None:
+        ...
+    def _checkSPIPinState(self, port: int, allow_state: collections.abc.Sequence[str], timeout: float = 3) -> None:
+        """
+        Reads the pin modes of the port's digital ports and tests every pin of the port.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict (not checked for its type)
+            allow_state (collections.abc.Sequence[str]): mode names a pin may be in, e.g. ['Idle', 'DI', 'DO']
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            None: None; SPIPortNotAvaliableError for a pin in another mode
+        
+        Raises, before anything is sent:
+            KeyError: port is not a key of SPI_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _checkSPIPinState_async(self, port: int, allow_state: collections.abc.Sequence[str]) -> collections.abc.Coroutine[typing.Any, typing.Any, None]:
+        """
+        Awaitable _checkSPIPinState, without timeout: Reads the pin modes of the port's digital ports and tests every pin of the port.
+        
+        Args:
+            port (int): SPI port, a key of SPI_dict (not checked for its type)
+            allow_state (collections.abc.Sequence[str]): mode names a pin may be in, e.g. ['Idle', 'DI', 'DO']
+        
+        Returns:
+            None: None; SPIPortNotAvaliableError for a pin in another mode
+        
+        Raises, before anything is sent:
+            KeyError: port is not a key of SPI_dict.
+        """
+    def _checkSPIPort(self, port: typing.Any) -> None:
+        ...
+    def _checkSPIPrescaler(self, mode: typing.Any) -> None:
         ...
 class SystemAnalogModule:
     """
@@ -4792,7 +5530,7 @@ class KestrelTherm(ETHDevice, SystemModule, NetworkModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverDio(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverDio(USBDevice, SystemModule, I2CModule, SPIModule, DIOModule, CounterModule, PWMModule):
     """
     PloverDio (Plover-Dio): device class USBDevice; modules System, UART, I2C, SPI, DIO, Counter, PWM.
     
@@ -4800,7 +5538,7 @@ class PloverDio(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverAin(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverAin(USBDevice, SystemModule, I2CModule, SPIModule, DIOModule, CounterModule, PWMModule):
     """
     PloverAin (Plover-Ain): device class USBDevice; modules System, UART, I2C, SPI, AI, DIO, Counter, PWM.
     
@@ -4808,7 +5546,7 @@ class PloverAin(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverTc(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverTc(USBDevice, SystemModule, I2CModule, SPIModule, DIOModule, CounterModule, PWMModule):
     """
     PloverTc (Plover-Tc): device class USBDevice; modules System, UART, I2C, SPI, Thermocouple, DIO, Counter, PWM.
     
@@ -4816,7 +5554,7 @@ class PloverTc(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverCan(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverCan(USBDevice, SystemModule, I2CModule, SPIModule, DIOModule, CounterModule, PWMModule):
     """
     PloverCan (Plover-Can): device class USBDevice; modules System, UART, I2C, SPI, CAN, DIO, Counter, PWM.
     
@@ -4832,7 +5570,7 @@ class PloverSink(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverAio(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverAio(USBDevice, SystemModule, I2CModule, DIOModule, CounterModule, PWMModule):
     """
     PloverAio (Plover-Aio): device class USBDevice; modules System, UART, I2C, AI, AO, DIO, Counter, PWM.
     
@@ -4840,7 +5578,7 @@ class PloverAio(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverRtd(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverRtd(USBDevice, SystemModule, I2CModule, SPIModule, DIOModule, CounterModule, PWMModule):
     """
     PloverRtd (Plover-Rtd): device class USBDevice; modules System, UART, I2C, SPI, ThermalResistance, DIO, Counter, PWM.
     
