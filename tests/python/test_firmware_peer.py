@@ -9,9 +9,10 @@ import pytest
 
 import pyorv
 import pyorv.sim as sim
-from conftest import connect
+from conftest import connect, wait_until
 
 OPEN_I2C, READ_I2C, GET_PIN_MODE_OF_SLOT, GET_DRIVER_INFO = 144, 145, 127, 240
+START_CAN = 49  # a streaming command: its records take the stream link
 
 
 def packet(cmd, data):
@@ -19,7 +20,8 @@ def packet(cmd, data):
 
 
 class Peer:
-    """A firmware on a socket: answers the driver info, the pin modes (all Idle),
+    """A firmware on a socket: answers the driver info (after an unasked CAN
+    stream record), the pin modes (all Idle),
     OPEN_I2C and READ_I2C (bytes counting from the read address), and keeps
     what it got."""
 
@@ -38,7 +40,7 @@ class Peer:
             cmd, data = body[0], body[1:-2]
             self.received.append((cmd, data))
             if cmd == GET_DRIVER_INFO:
-                self.conn.sendall(packet(cmd, b"Peer_1.0"))
+                self.conn.sendall(packet(START_CAN, [0, 0, 7, 8, 9]) + packet(cmd, b"Peer_1.0"))
             elif cmd == GET_PIN_MODE_OF_SLOT:
                 self.conn.sendall(packet(cmd, [8, data[0], 0x11, 0x11, 0x11, 0x11]))
             elif cmd == OPEN_I2C:
@@ -89,7 +91,12 @@ def test_a_peer_serves_any_model_and_link(simulator, peer, model):
     dev = getattr(pyorv, model)(verbose=False)
     try:
         connect(dev, sim_dev)
+        stream_link = sim.Channel.Data if sim_dev.link == sim.Link.Wifi else sim.Channel.Cmd
+        assert sim_dev.wait_for_host(stream_link, 5.0)  # a record with no host is dropped
         assert dev.Sys_getDriverInfo() == ["Peer", "1.0"]
+        # The stream record reached the stream pool, over the data link on Wi-Fi.
+        assert wait_until(lambda: dev._streamQueue(START_CAN).qsize() == 1)
+        assert bytes(dev._streamQueue(START_CAN).get_nowait()) == bytes([7, 8, 9])  # its frames
     finally:
         dev.close(verbose=False)
     assert peer.received[-1] == (GET_DRIVER_INFO, bytes([0]))
