@@ -1,5 +1,10 @@
 // The simulated firmware's CAN controller.
 //
+// OPEN_CAN goes out from the host as the one byte 48, which the firmware's
+// receiver reads as the high byte of a two-byte command: OPEN_CAN for port p
+// arrives as the command 48 * 256 + p with no data.  The answer goes back
+// under OPEN_CAN, in two-byte form (sim/device.cpp).
+//
 // OPEN_CAN takes the bus's pins (pin mode CAN), CLOSE_CAN gives them back
 // (Idle).  START_CAN sets the controller running (no answer: every packet
 // under START_CAN is a stream record to the host), STOP_CAN stops it.  A
@@ -157,11 +162,23 @@ void getCounters(Context& ctx, const Request& req) {
   ctx.reply(out);
 }
 
+void open(Context& ctx, const Request& req) {
+  const int port = req.cmd > 255 ? (req.cmd & 0xFF) : (req.data.empty() ? -1 : req.data[0]);
+  const auto status = [&](uint8_t s) { ctx.reply(OPEN_CAN, {static_cast<uint8_t>(port), s}); };
+  if (port < 0 || !canMap(ctx).count(port)) return status(kStatusCAN);
+  ctx.state().slot<CanSim>()->open = true;
+  setPinModes(ctx.device(), canMap(ctx).at(port), PinMode::CAN);
+  status(0);
+}
+
+constexpr int kOpenCanOnePort = OPEN_CAN << 8;  // + port, as received
+const Registrar kCanOpen{{{OPEN_CAN, open},
+                          {kOpenCanOnePort + 0, open},
+                          {kOpenCanOnePort + 1, open},
+                          {kOpenCanOnePort + 2, open},
+                          {kOpenCanOnePort + 3, open}}};
+
 const Registrar kCan{{
-    {OPEN_CAN, onPort([](Context& ctx, const Request& req, CanSim& can) {
-       can.open = true;
-       setPinModes(ctx.device(), canMap(ctx).at(req.data[0]), PinMode::CAN);
-     })},
     {START_CAN, start},
     {WRITE_CAN, write},
     {STOP_CAN, onPort([](Context&, const Request&, CanSim& can) { can.running = false; })},

@@ -45,6 +45,12 @@ void BusStream::run(const std::atomic<bool>& killed) {
   }
 }
 
+Bytes takeFromQueue(const Call& c, StreamQueue& q, int64_t n, bool can_arrive) {
+  if (!c.isAwaitable() && can_arrive && n > 0)
+    c.waitQueue(q, static_cast<size_t>(n), Clock::time_point::max());
+  return c.device().getStreamingFromPoolAsync(q, n);
+}
+
 std::vector<int64_t> busPinPorts(const std::vector<PinPair>& pins) {
   std::set<int64_t> ports;
   for (const PinPair& p : pins) ports.insert(p.port);

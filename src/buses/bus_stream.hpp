@@ -50,6 +50,11 @@ class BusStream {
   std::thread thread_;
 };
 
+// Up to n items of a bus's queue, flattened (n -1: all there are).  The
+// blocking twin first waits until n are there, while `can_arrive` (the stream
+// is open); the awaitable twin takes what is there.
+Bytes takeFromQueue(const Call& c, StreamQueue& q, int64_t n, bool can_arrive);
+
 // The pin check of a bus: reads the modes of each digital port the bus's pins
 // lie on (Sys_getPinModeInPort) and tests every pin of the bus against each
 // port's modes in turn, whichever port the pin lies on; a pin whose mode is

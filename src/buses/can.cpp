@@ -299,11 +299,8 @@ std::vector<CANFrame> CANModule::CAN_read(const Call& c, const Value& port,
                                           const Value& num_frames, double delay) {
   _checkCANPort(port);
   checkInputType(num_frames, kTypeInt);
-  // A blocking read waits for its frames only while the controller is open:
-  // closed, it takes what is there, at once.
-  const Bytes flat = stream_.gate().isOpen()
-                         ? c.streaming(frames_, num_frames.asInt(), delay)
-                         : c.device().getStreamingFromPoolAsync(frames_, num_frames.asInt());
+  (void)delay;  // a frame wakes the reader at once
+  const Bytes flat = takeFromQueue(c, frames_, num_frames.asInt(), stream_.gate().isOpen());
   std::vector<CANFrame> out;
   out.reserve(flat.size() / CAN_FRAME_BYTES);
   for (size_t at = 0; at + CAN_FRAME_BYTES <= flat.size(); at += CAN_FRAME_BYTES)

@@ -102,7 +102,7 @@ class CANModule : public ModuleBase {
   // Ends the stream thread (without joining it).
   void CAN_free_();
   // CAN_free_ and the join; for the model's close and the destructor.
-  void closeModule() noexcept;
+  void closeModule() noexcept override;
 
   bool _checkCANPort(const Value& port);
   static bool _checkCANSpeed(const Value& speed);

@@ -233,12 +233,9 @@ std::vector<std::string> UARTModule::UART_read(const Call& c, const Value& port,
   _checkUARTPort(port);
   checkInputType(bytes_to_read, kTypeInt);
   StreamQueue& queue = portOf(port.asInt()).signal;
-  const int64_t wanted = bytes_to_read.asInt();
-  // A blocking read waits for its bytes only while the stream can bring them:
-  // with the UARTs closed it takes what is there, at once.
-  const bool can_arrive = portOf(port.asInt()).stream.gate().isOpen();
-  const Bytes bytes = can_arrive ? c.streaming(queue, wanted, delay)
-                                 : c.device().getStreamingFromPoolAsync(queue, wanted);
+  (void)delay;  // a byte wakes the reader at once
+  const Bytes bytes = takeFromQueue(c, queue, bytes_to_read.asInt(),
+                                    portOf(port.asInt()).stream.gate().isOpen());
   std::vector<std::string> out;
   out.reserve(bytes.size());
   for (uint8_t b : bytes) out.push_back(charOf(b));

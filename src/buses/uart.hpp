@@ -66,7 +66,7 @@ class UARTModule : public ModuleBase {
   // Ends both stream threads (without joining them).
   void UART_free_();
   // UART_free_ and the joins; for the model's close and the destructor.
-  void closeModule() noexcept;
+  void closeModule() noexcept override;
 
   // Checks: true, or the error of the row.
   bool _checkUARTPort(const Value& port);

@@ -11,6 +11,9 @@ import pytest
 import pyorv
 from conftest import answer, last, refuses, run, sent, thread_ids, wait_until, wire
 
+# The USB models look for the USB library beside the module and warn when it is not there.
+pytestmark = pytest.mark.filterwarnings("ignore::pyorv.ExtLibNotFoundWarning")
+
 OPEN_UART, START_UART_READING, WRITE_UART, STOP_UART_READING, CLOSE_UART = 128, 129, 130, 131, 132
 RESET_UART, SET_UART_BAUD_RATE, SET_UART_DATA_SIZE, SET_UART_PARITY = 133, 134, 135, 136
 SET_UART_NUM_STOP_BITS, GET_PIN_MODE_OF_SLOT = 139, 127
