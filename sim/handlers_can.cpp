@@ -141,7 +141,8 @@ void start(Context& ctx, const Request& req) {
 
 void getErrors(Context& ctx, const Request& req) {
   const auto [tx, rx] = errorsOf(ctx);
-  ctx.reply({req.data.empty() ? uint8_t{0} : req.data[0], static_cast<uint8_t>(std::min<int64_t>(tx, 255)),
+  ctx.reply({req.data.empty() ? uint8_t{0} : req.data[0],
+             static_cast<uint8_t>(std::min<int64_t>(tx, 255)),
              static_cast<uint8_t>(std::min<int64_t>(rx, 255))});
 }
 

@@ -41,7 +41,9 @@ void bindFrame(py::module_& m) {
                   "A copy of data padded with zeros and cut to eight entries.")
       .def_static(
           "fromU8List",
-          [](const std::vector<int64_t>& u8_list) { return CANFrame::fromU8List(std::span(u8_list)); },
+          [](const std::vector<int64_t>& u8_list) {
+            return CANFrame::fromU8List(std::span(u8_list));
+          },
           py::arg("u8_list"), "The frame of a wire form: four identifier bytes, then the data.")
       .def(
           "to_message",
@@ -54,8 +56,8 @@ void bindFrame(py::module_& m) {
             return message(py::arg("arbitration_id") = f.id,
                            py::arg("is_extended_id") = f.extended_id,
                            py::arg("is_remote_frame") = f.remote,
-                           py::arg("data") = py::bytes(reinterpret_cast<const char*>(data.data()),
-                                                       data.size()));
+                           py::arg("data") =
+                               py::bytes(reinterpret_cast<const char*>(data.data()), data.size()));
           },
           "The frame as a python-can Message (ImportError without python-can).")
       .def_static(
@@ -81,7 +83,8 @@ void bindCAN(py::module_& m) {
       "The device's CAN controller: open, bus speed, receive filters, start, write and read "
       "frames, stop, close; received frames are streamed by the device onto one queue.");
 
-  const Op ports{"CAN_getPort", "The CAN ports; nothing is sent.", {}, {kInts, "the keys of can_dict"}};
+  const Op ports{
+      "CAN_getPort", "The CAN ports; nothing is sent.", {}, {kInts, "the keys of can_dict"}};
   defPlain(cls, ports, &C::CAN_getPort);
   defPlain(
       cls, ports,
@@ -145,36 +148,37 @@ void bindCAN(py::module_& m) {
            kPortRefused});
   defTwin(cls, &C::CAN_stop,
           {"CAN_stop", "Stops the controller.", {kPort}, {kInt, kStatusText}, kPortRefused});
-  defTwin<2>(cls, &C::CAN_write,
-             {"CAN_write",
-              "Writes one frame (TX index 0).",
-              {kPort,
-               {"id_", kInt, "identifier, 11 or 29 bits"},
-               {"data", "list[int] | None", "up to 8 bytes; ignored (eight zeros) for a remote frame"},
-               {"remote", "bool", "a remote frame", "False"},
-               {"extended_id", "bool", "a 29-bit identifier", "False"}},
-              {kInt, kStatusText},
-              "InputTypeNotCorrectError: port or id_ not an int, remote or extended_id not a "
-              "bool, data not a list.\n"
-              "CANPortNotAvaliableError: port is not a key of can_dict.\n"
-              "CANDataLengthNotVaildError: more than 8 data bytes.\n"
-              "InputDataNotInRangeError: a data byte outside 0..255."});
-  defStreamRead(cls,
-                {"CAN_read",
-                 "Takes received frames (one queue for the controller). The blocking method "
-                 "waits until num_frames are there while the controller is open (closed: what "
-                 "is there, at once); the awaitable twin takes what is there, up to num_frames, "
-                 "without waiting.",
-                 {kPort,
-                  {"num_frames", kInt, "how many frames; -1 for all that are there"},
-                  {"delay", kFloat, "kept for the interface; a frame wakes the reader at once",
-                   "0.005"}},
-                 {"list[CANFrame]", "the frames, oldest first"},
-                 "InputTypeNotCorrectError: port or num_frames is not an int.\n"
-                 "CANPortNotAvaliableError: port is not a key of can_dict."},
-                [](C& self, const Call& c, const Value& port, const Value& n, double delay) {
-                  return self.CAN_read(c, port, n, delay);
-                });
+  defTwin<2>(
+      cls, &C::CAN_write,
+      {"CAN_write",
+       "Writes one frame (TX index 0).",
+       {kPort,
+        {"id_", kInt, "identifier, 11 or 29 bits"},
+        {"data", "list[int] | None", "up to 8 bytes; ignored (eight zeros) for a remote frame"},
+        {"remote", "bool", "a remote frame", "False"},
+        {"extended_id", "bool", "a 29-bit identifier", "False"}},
+       {kInt, kStatusText},
+       "InputTypeNotCorrectError: port or id_ not an int, remote or extended_id not a "
+       "bool, data not a list.\n"
+       "CANPortNotAvaliableError: port is not a key of can_dict.\n"
+       "CANDataLengthNotVaildError: more than 8 data bytes.\n"
+       "InputDataNotInRangeError: a data byte outside 0..255."});
+  defStreamRead(
+      cls,
+      {"CAN_read",
+       "Takes received frames (one queue for the controller). The blocking method "
+       "waits until num_frames are there while the controller is open (closed: what "
+       "is there, at once); the awaitable twin takes what is there, up to num_frames, "
+       "without waiting.",
+       {kPort,
+        {"num_frames", kInt, "how many frames; -1 for all that are there"},
+        {"delay", kFloat, "kept for the interface; a frame wakes the reader at once", "0.005"}},
+       {"list[CANFrame]", "the frames, oldest first"},
+       "InputTypeNotCorrectError: port or num_frames is not an int.\n"
+       "CANPortNotAvaliableError: port is not a key of can_dict."},
+      [](C& self, const Call& c, const Value& port, const Value& n, double delay) {
+        return self.CAN_read(c, port, n, delay);
+      });
 
   defTwin(cls, &C::CAN_getErrors_,
           {"_CAN_getErrors",

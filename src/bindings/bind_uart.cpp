@@ -105,21 +105,21 @@ void bindUART(py::module_& m) {
            "UARTExceedMaxLengthError: more than 50 items.\n"
            "TypeError: an item of the list is not a one-character string.\n"
            "ValueError: a character code above 255."});
-  defStreamRead(cls,
-                {"UART_read",
-                 "Takes received bytes of a UART. The blocking method waits until bytes_to_read "
-                 "are there while the UARTs are open (closed: what is there, at once); the "
-                 "awaitable twin takes what is there, up to bytes_to_read, without waiting.",
-                 {kPort,
-                  {"bytes_to_read", kInt, "how many bytes; -1 for all that are there"},
-                  {"delay", kFloat, "kept for the interface; a byte wakes the reader at once",
-                   "0.005"}},
-                 {kStrs, "one one-character string per byte, oldest first"},
-                 "InputTypeNotCorrectError: port or bytes_to_read is not an int.\n"
-                 "UARTPortNotAvaliableError: port is not a key of uart_dict."},
-                [](U& self, const Call& c, const Value& port, const Value& n, double delay) {
-                  return self.UART_read(c, port, n, delay);
-                });
+  defStreamRead(
+      cls,
+      {"UART_read",
+       "Takes received bytes of a UART. The blocking method waits until bytes_to_read "
+       "are there while the UARTs are open (closed: what is there, at once); the "
+       "awaitable twin takes what is there, up to bytes_to_read, without waiting.",
+       {kPort,
+        {"bytes_to_read", kInt, "how many bytes; -1 for all that are there"},
+        {"delay", kFloat, "kept for the interface; a byte wakes the reader at once", "0.005"}},
+       {kStrs, "one one-character string per byte, oldest first"},
+       "InputTypeNotCorrectError: port or bytes_to_read is not an int.\n"
+       "UARTPortNotAvaliableError: port is not a key of uart_dict."},
+      [](U& self, const Call& c, const Value& port, const Value& n, double delay) {
+        return self.UART_read(c, port, n, delay);
+      });
   defTwin(cls, &U::UART_startReading_,
           {"_UART_startReading",
            "Asks the firmware to stream what the UART receives; no reply is awaited.",

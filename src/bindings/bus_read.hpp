@@ -5,9 +5,9 @@
 
 #include <map>
 #include <optional>
+#include <string>
 #include <utility>
 #include <vector>
-#include <string>
 
 #include "bindings/twin.hpp"
 #include "bindings/twin_def.hpp"

@@ -53,8 +53,8 @@ CANFrame CANFrame::fromU8List(std::span<const uint8_t> u8_list) {
   }
   if (u8_list.size() > 4) {
     const auto end = std::min<size_t>(u8_list.size(), CAN_FRAME_BYTES);
-    return CANFrame(id_, extended, remote, std::vector<int64_t>(u8_list.begin() + 4,
-                                                                u8_list.begin() + end));
+    return CANFrame(id_, extended, remote,
+                    std::vector<int64_t>(u8_list.begin() + 4, u8_list.begin() + end));
   }
   return CANFrame(id_, extended, remote);
 }
@@ -295,8 +295,8 @@ int CANModule::CAN_write(const Call& c, const Value& port, const Value& id_, con
   return c.exchangeStatus(WRITE_CAN, out, 1);
 }
 
-std::vector<CANFrame> CANModule::CAN_read(const Call& c, const Value& port,
-                                          const Value& num_frames, double delay) {
+std::vector<CANFrame> CANModule::CAN_read(const Call& c, const Value& port, const Value& num_frames,
+                                          double delay) {
   _checkCANPort(port);
   checkInputType(num_frames, kTypeInt);
   (void)delay;  // a frame wakes the reader at once
@@ -330,7 +330,8 @@ std::vector<int64_t> CANModule::CAN_getCounters_(const Call& c, const Value& por
   const Bytes data_in = c.exchange(GET_CAN_COUNTERS, Bytes{portByte(port)});
   needReplyBytes(data_in, 1 + 6 * 4, GET_CAN_COUNTERS);
   std::vector<int64_t> out;
-  for (size_t i = 0; i < 6; ++i) out.push_back(convert4U8ToU32(std::span(data_in).subspan(1 + 4 * i, 4)));
+  for (size_t i = 0; i < 6; ++i)
+    out.push_back(convert4U8ToU32(std::span(data_in).subspan(1 + 4 * i, 4)));
   return out;
 }
 
@@ -340,8 +341,7 @@ int CANModule::CAN_setTXPriority_(const Call& c, const Value& port, const Value&
   // The two mode checks take the mode alone and are reached through the
   // object, so the host hands them the object as well: the call fails with the
   // host's argument-count TypeError and the command never goes out.
-  throw TypeError(
-      "CANBased._checkCANTXIndex() takes 1 positional argument but 2 were given");
+  throw TypeError("CANBased._checkCANTXIndex() takes 1 positional argument but 2 were given");
   _checkCANTXIndex(tx_mode);
   _checkCANTXPriority(priority_mode);
   return c.exchangeStatus(SET_CAN_TX_PRIORITY,

@@ -9,9 +9,7 @@ namespace orv {
 namespace {
 
 // The one-character string of a byte, as UTF-8.
-std::string charOf(uint8_t b) {
-  return encodeUtf8(std::u32string(1, static_cast<char32_t>(b)));
-}
+std::string charOf(uint8_t b) { return encodeUtf8(std::u32string(1, static_cast<char32_t>(b))); }
 
 // ord(item): the code of a one-character string.
 int64_t ordOf(const Value& item) {
@@ -44,7 +42,8 @@ PortMap UARTModule::UART_getPinMap() { return model().uart_dict; }
 
 bool UARTModule::_checkUARTPort(const Value& port) {
   checkInputType(port, kTypeInt);
-  if (!model().uart_dict.count(static_cast<int>(port.asInt()))) raise(ErrorId::UARTPortNotAvaliableError);
+  if (!model().uart_dict.count(static_cast<int>(port.asInt())))
+    raise(ErrorId::UARTPortNotAvaliableError);
   return true;
 }
 
@@ -221,7 +220,8 @@ int UARTModule::UART_write(const Call& c, const Value& port, const Value& write_
   // The length byte counts the items given, not the bytes they make.
   Bytes out{portByte(port), portByte(Value(static_cast<int64_t>(write_data.size())))};
   if (write_data.isText()) {
-    for (int64_t code : convertStrToU8List(write_data.asText())) out.push_back(portByte(Value(code)));
+    for (int64_t code : convertStrToU8List(write_data.asText()))
+      out.push_back(portByte(Value(code)));
   } else {
     for (const Value& item : write_data.asList()) out.push_back(portByte(Value(ordOf(item))));
   }
@@ -234,8 +234,8 @@ std::vector<std::string> UARTModule::UART_read(const Call& c, const Value& port,
   checkInputType(bytes_to_read, kTypeInt);
   StreamQueue& queue = portOf(port.asInt()).signal;
   (void)delay;  // a byte wakes the reader at once
-  const Bytes bytes = takeFromQueue(c, queue, bytes_to_read.asInt(),
-                                    portOf(port.asInt()).stream.gate().isOpen());
+  const Bytes bytes =
+      takeFromQueue(c, queue, bytes_to_read.asInt(), portOf(port.asInt()).stream.gate().isOpen());
   std::vector<std::string> out;
   out.reserve(bytes.size());
   for (uint8_t b : bytes) out.push_back(charOf(b));

@@ -120,6 +120,18 @@ def test_loopback_of_50_bytes_and_a_scripted_peer(plover):
     assert dev.UART_read(1, 7) == list("AT\rOK\r\n")  # the echo of the wire, then the answer
 
 
+def test_the_second_port_streams_only_once_its_reading_is_started(plover):
+    dev, s = opened(plover, (1, 2))
+    assert dev.UART_open(2) == 0  # the flag stands: no START_UART_READING for port 2
+    dev.UART_write(1, "lost")
+    assert dev.UART_read(2, -1) == []
+    assert dev._UART_startReading(2) == 0
+    assert s.wait_for_packets(4) and last(s) == (START_UART_READING, b"\x02")
+    dev.UART_write(1, "wired")
+    assert dev.UART_read(2, 5) == list("wired")
+    assert run(dev.UART_read_async(1, -1)) == []  # nothing came back on port 1
+
+
 def test_awaitable_read_takes_what_is_there_without_waiting(plover):
     dev, s = opened(plover, (1, 1))
     assert run(dev.UART_read_async(1, 10)) == []
