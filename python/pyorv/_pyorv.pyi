@@ -5,7 +5,7 @@ from __future__ import annotations
 import collections.abc
 import typing
 from . import _sim
-__all__: list[str] = ['AHRSModeNotAvaliableError', 'AHRSPortNotAvaliableError', 'AHRSQueueOverflowWarning', 'AHRS_START', 'AICSNotAvaliableError', 'AIChannelNotAvaliableError', 'AIModeNotAvaliableError', 'AIPortNotAvaliableError', 'AIQueueOverflowWarning', 'AIRateNotVaildError', 'AOChannelNotAvaliableError', 'AOFormNotAvaliableError', 'AOModeNotVaildError', 'AOPortNotAvaliableError', 'AORateNotVaildError', 'AOSpanNotVaildError', 'APINotSupportError', 'BROADCAST_CMD_LIST', 'BroadcastDevice', 'BroadcastModule', 'CANDataLengthNotVaildError', 'CANPortNotAvaliableError', 'CANQueueOverflowWarning', 'CANSpeedNotVaildError', 'CANTXNotVaildError', 'CANTXPriorityNotVaildError', 'CHECK_MAC_AND_REBOOT', 'CHECK_MAC_AND_SET_IP', 'CMD_CR', 'CMD_CR_2', 'CMD_INDEX', 'CMD_INDEX_2', 'CMD_LF', 'CMD_LF_2', 'CMD_STX', 'CMD_STX_2', 'CONNECTION_TIMEOUT', 'Client', 'CounterChannelNotAvaliableError', 'CounterModule', 'DIOModule', 'DIPortNotAvaliableError', 'DOPortNotAvaliableError', 'DPOTChannelNotAvaliableError', 'DPOTModule', 'DPOTPortNotAvaliableError', 'Device', 'DeviceClosedError', 'DeviceFinder', 'ECHO_DELAY', 'ETHDevice', 'Error', 'ExtLibNotFoundWarning', 'FirmwareAIError', 'FirmwareAOError', 'FirmwareBootloaderError', 'FirmwareCANError', 'FirmwareCoreError', 'FirmwareDIOError', 'FirmwareDriveError', 'FirmwareEEPROMError', 'FirmwareEnableError', 'FirmwareEncoderError', 'FirmwareHALIndexError', 'FirmwareI2CError', 'FirmwareMotionError', 'FirmwareOLEDError', 'FirmwareORVIndexError', 'FirmwareOtherError', 'FirmwarePWMError', 'FirmwareParserError', 'FirmwarePinIndexError', 'FirmwarePulseError', 'FirmwareRTCError', 'FirmwareRelayError', 'FirmwareSPIError', 'FirmwareTCPError', 'FirmwareTIMError', 'FirmwareThermalError', 'FirmwareUARTError', 'FirmwareUDPError', 'FirmwareUSBError', 'GET_DEVICE_INFO', 'GET_DRIVER_INFO', 'HANDLE_DICT', 'HANDLE_LIST', 'HeronAin', 'HeronAinImu', 'HeronAinPlus', 'I2CAddressSizeNotVaildError', 'I2CClockNotSupportError', 'I2CPortNotAvaliableError', 'IniFileExtensionNameError', 'IniFileNotFoundError', 'InputDataNotInRangeError', 'InputTypeNotConsistentError', 'InputTypeNotCorrectError', 'KestrelAin', 'KestrelAout', 'KestrelCin', 'KestrelCvin', 'KestrelDio', 'KestrelDioX', 'KestrelRelay', 'KestrelRes', 'KestrelTherm', 'LABEL_DICT', 'LinkNotOpenError', 'MOTION', 'MRDRPortNotAvaliable', 'MerlinAxis', 'MerlinDrive', 'MotionAccelerationModeError', 'MotionAxisError', 'MotionBreakPointModeError', 'MotionCaptureModeError', 'MotionCaptureTypeError', 'MotionDirectionError', 'MotionEnableError', 'MotionOperationModeError', 'MotionPolarityError', 'MotionPortNotAvaliable', 'MotionSearchDirectionError', 'MotionSearchTypeError', 'MotionStepperOutputError', 'MotionStopModeError', 'NUM_BCST_RETRIES', 'NUM_RETRIES', 'NetworkClient', 'NetworkConnectionError', 'NetworkConnectionLostError', 'NetworkDevice', 'NetworkModule', 'OPEN_CAN', 'ORVWarning', 'PACKET_TIMEOUT', 'PRODUCT_LIST', 'PWMChannelNotAvaliableError', 'PWMModule', 'PinsNotExistError', 'PinsValueNotDefineError', 'PloverAin', 'PloverAio', 'PloverCan', 'PloverDio', 'PloverRtd', 'PloverSink', 'PloverTc', 'QUEUE_SIZE_MAX', 'QUEUE_TIMEOUT', 'RETRY_TIMEOUT', 'ReceivePacketTimeoutError', 'RelayCounterIndexError', 'RelayModule', 'ReplyFormatError', 'SPIDataLengthExceedMaxError', 'SPIDataSizeNotVaildError', 'SPIFirstBitNotVaildError', 'SPIModeNotVaildError', 'SPIPortNotAvaliableError', 'SPIPrescalerNotVaildError', 'START_AI_STREAMING', 'START_AI_STREAMING_VARIABLE', 'START_AO_STREAMING', 'START_CAN', 'START_MOTION_MONITORING', 'START_UART_READING', 'STREAMING_CMD_LIST', 'StreamQueue', 'SystemAnalogModule', 'SystemModule', 'TCPClient', 'TCP_CMD_PORT', 'TCP_DATA_LENGTH_MAX', 'TCP_DATA_PORT', 'TCP_PKT_LENGTH_MAX', 'ThermalChipSelectNotAvaliableError', 'ThermalModeNotVaildError', 'ThermalPortNotAvaliableError', 'ThermalTypeNotVaildError', 'Trellis', 'TrellisLite', 'TrellisPortNotAvaliableError', 'UARTBaudRateNotSupportError', 'UARTDataBitNotSupportError', 'UARTExceedMaxLengthError', 'UARTParityNotSupportError', 'UARTPortNotAvaliableError', 'UARTQueueOverflowWarning', 'UARTStopBitNotSupportError', 'UDPClient', 'UDP_PKT_LENGTH_MAX', 'UDP_RECV_PORT', 'UDP_SEND_PORT', 'USBClient', 'USBConnectionError', 'USBDevice', 'USB_61E_PLUS_PID', 'USB_61E_PLUS_VID', 'USB_61E_RECEIVE_BYTE', 'USB_61E_RECEIVE_TIMEOUT', 'USB_61E_RECEIVE_TOTAL_BYTES', 'USB_EP_IN', 'USB_EP_OUT', 'USB_PID', 'USB_PKT_SIZE', 'USB_VID', 'WifiDevice', 'WifiModule', 'adjustDataList', 'changeToTrellisPort', 'checkEachItemInRange', 'checkFirmwareError', 'checkFuncPinMap', 'checkInputType', 'checkInputTypeConsistent', 'checkPinMap', 'clearBit', 'coerce', 'convert2U8ToI16', 'convert2U8ToU16', 'convert4U8ToF32', 'convert4U8ToI32', 'convert4U8ToU32', 'convert8U8ToF64', 'convert8U8ToI64', 'convert8U8ToU64', 'convertF32To4U8', 'convertF64To8U8', 'convertI16To2U8', 'convertI32To4U8', 'convertI64To8U8', 'convertIPAddrTo4U8', 'convertIndexAndBinaryListsToInt', 'convertIndexListToInt', 'convertIntToBinaryList', 'convertIntToIndexList', 'convertMACAddrTo6U8', 'convertStrToU8List', 'convertU16To2U8', 'convertU32To4U8', 'convertU64To8U8', 'convertU8ListToStr', 'errAHRSMode', 'errAHRSPort', 'errAIChannel', 'errAIChip', 'errAIMode', 'errAIPort', 'errAIRate', 'errAOChannel', 'errAOForm', 'errAOMode', 'errAOPort', 'errAORate', 'errAOSpan', 'errAPINotSupport', 'errCANDataLength', 'errCANPort', 'errCANSpeed', 'errCANTX', 'errCANTXPriority', 'errCounterchannel', 'errDIPort', 'errDOPort', 'errDPOTChannel', 'errDPOTPort', 'errDeviceClosed', 'errFirmwareAI', 'errFirmwareAO', 'errFirmwareBootloader', 'errFirmwareCAN', 'errFirmwareCore', 'errFirmwareDIO', 'errFirmwareDrive', 'errFirmwareEEPROM', 'errFirmwareEnable', 'errFirmwareEncoder', 'errFirmwareHALIndex', 'errFirmwareI2C', 'errFirmwareMotion', 'errFirmwareOLED', 'errFirmwareORVIndex', 'errFirmwareOther', 'errFirmwarePWM', 'errFirmwareParser', 'errFirmwarePinIndex', 'errFirmwarePulse', 'errFirmwareRTC', 'errFirmwareRelay', 'errFirmwareSPI', 'errFirmwareTCP', 'errFirmwareTIM', 'errFirmwareThermal', 'errFirmwareUART', 'errFirmwareUDP', 'errFirmwareUSB', 'errI2CAddressSize', 'errI2CClock', 'errI2CPort', 'errIniFileName', 'errIniFileNotFound', 'errInputDataNotInRange', 'errInputTypeNotConsistent', 'errInputTypeNotCorrect', 'errLinkNotOpen', 'errMotionAccelerationMode', 'errMotionAxis', 'errMotionBreakPoint', 'errMotionCaptureMode', 'errMotionCaptureType', 'errMotionDirection', 'errMotionEnable', 'errMotionOperationMode', 'errMotionPolarity', 'errMotionPort', 'errMotionSearchDirection', 'errMotionSearchType', 'errMotionStepperOutput', 'errMotionStopMode', 'errNetConnection', 'errNetConnectionLost', 'errPWMchannel', 'errPacketTimeout', 'errPinsNotExist', 'errPinsValueNotDefine', 'errRelayIndex', 'errReplyFormat', 'errSPIDataLengthExceedMax', 'errSPIDataSize', 'errSPIFirstBit', 'errSPIMode', 'errSPIPort', 'errSPIPrescaler', 'errThermalChipSelect', 'errThermalMode', 'errThermalPort', 'errThermalType', 'errTrellisSlot', 'errUARTBaudRate', 'errUARTDataBit', 'errUARTExceedMaxLength', 'errUARTParity', 'errUARTPort', 'errUARTStopBit', 'errUSBConnection', 'fillBit', 'printGenericError', 'readBit', 'warnAHRSOverflow', 'warnAIOverflow', 'warnCANOverflow', 'warnLibNotFound', 'warnUARTOverflow', 'writeBit']
+__all__: list[str] = ['AHRSModeNotAvaliableError', 'AHRSPortNotAvaliableError', 'AHRSQueueOverflowWarning', 'AHRS_START', 'AICSNotAvaliableError', 'AIChannelNotAvaliableError', 'AIModeNotAvaliableError', 'AIPortNotAvaliableError', 'AIQueueOverflowWarning', 'AIRateNotVaildError', 'AOChannelNotAvaliableError', 'AOFormNotAvaliableError', 'AOModeNotVaildError', 'AOPortNotAvaliableError', 'AORateNotVaildError', 'AOSpanNotVaildError', 'APINotSupportError', 'BROADCAST_CMD_LIST', 'BroadcastDevice', 'BroadcastModule', 'CANDataLengthNotVaildError', 'CANFrame', 'CANModule', 'CANPortNotAvaliableError', 'CANQueueOverflowWarning', 'CANSpeedNotVaildError', 'CANTXNotVaildError', 'CANTXPriorityNotVaildError', 'CHECK_MAC_AND_REBOOT', 'CHECK_MAC_AND_SET_IP', 'CMD_CR', 'CMD_CR_2', 'CMD_INDEX', 'CMD_INDEX_2', 'CMD_LF', 'CMD_LF_2', 'CMD_STX', 'CMD_STX_2', 'CONNECTION_TIMEOUT', 'Client', 'CounterChannelNotAvaliableError', 'CounterModule', 'DIOModule', 'DIPortNotAvaliableError', 'DOPortNotAvaliableError', 'DPOTChannelNotAvaliableError', 'DPOTModule', 'DPOTPortNotAvaliableError', 'Device', 'DeviceClosedError', 'DeviceFinder', 'ECHO_DELAY', 'ETHDevice', 'Error', 'ExtLibNotFoundWarning', 'FirmwareAIError', 'FirmwareAOError', 'FirmwareBootloaderError', 'FirmwareCANError', 'FirmwareCoreError', 'FirmwareDIOError', 'FirmwareDriveError', 'FirmwareEEPROMError', 'FirmwareEnableError', 'FirmwareEncoderError', 'FirmwareHALIndexError', 'FirmwareI2CError', 'FirmwareMotionError', 'FirmwareOLEDError', 'FirmwareORVIndexError', 'FirmwareOtherError', 'FirmwarePWMError', 'FirmwareParserError', 'FirmwarePinIndexError', 'FirmwarePulseError', 'FirmwareRTCError', 'FirmwareRelayError', 'FirmwareSPIError', 'FirmwareTCPError', 'FirmwareTIMError', 'FirmwareThermalError', 'FirmwareUARTError', 'FirmwareUDPError', 'FirmwareUSBError', 'GET_DEVICE_INFO', 'GET_DRIVER_INFO', 'HANDLE_DICT', 'HANDLE_LIST', 'HeronAin', 'HeronAinImu', 'HeronAinPlus', 'I2CAddressSizeNotVaildError', 'I2CClockNotSupportError', 'I2CPortNotAvaliableError', 'IniFileExtensionNameError', 'IniFileNotFoundError', 'InputDataNotInRangeError', 'InputTypeNotConsistentError', 'InputTypeNotCorrectError', 'KestrelAin', 'KestrelAout', 'KestrelCin', 'KestrelCvin', 'KestrelDio', 'KestrelDioX', 'KestrelRelay', 'KestrelRes', 'KestrelTherm', 'LABEL_DICT', 'LinkNotOpenError', 'MOTION', 'MRDRPortNotAvaliable', 'MerlinAxis', 'MerlinDrive', 'MotionAccelerationModeError', 'MotionAxisError', 'MotionBreakPointModeError', 'MotionCaptureModeError', 'MotionCaptureTypeError', 'MotionDirectionError', 'MotionEnableError', 'MotionOperationModeError', 'MotionPolarityError', 'MotionPortNotAvaliable', 'MotionSearchDirectionError', 'MotionSearchTypeError', 'MotionStepperOutputError', 'MotionStopModeError', 'NUM_BCST_RETRIES', 'NUM_RETRIES', 'NetworkClient', 'NetworkConnectionError', 'NetworkConnectionLostError', 'NetworkDevice', 'NetworkModule', 'OPEN_CAN', 'ORVWarning', 'PACKET_TIMEOUT', 'PRODUCT_LIST', 'PWMChannelNotAvaliableError', 'PWMModule', 'PinsNotExistError', 'PinsValueNotDefineError', 'PloverAin', 'PloverAio', 'PloverCan', 'PloverDio', 'PloverRtd', 'PloverSink', 'PloverTc', 'QUEUE_SIZE_MAX', 'QUEUE_TIMEOUT', 'RETRY_TIMEOUT', 'ReceivePacketTimeoutError', 'RelayCounterIndexError', 'RelayModule', 'ReplyFormatError', 'SPIDataLengthExceedMaxError', 'SPIDataSizeNotVaildError', 'SPIFirstBitNotVaildError', 'SPIModeNotVaildError', 'SPIPortNotAvaliableError', 'SPIPrescalerNotVaildError', 'START_AI_STREAMING', 'START_AI_STREAMING_VARIABLE', 'START_AO_STREAMING', 'START_CAN', 'START_MOTION_MONITORING', 'START_UART_READING', 'STREAMING_CMD_LIST', 'StreamQueue', 'SystemAnalogModule', 'SystemModule', 'TCPClient', 'TCP_CMD_PORT', 'TCP_DATA_LENGTH_MAX', 'TCP_DATA_PORT', 'TCP_PKT_LENGTH_MAX', 'ThermalChipSelectNotAvaliableError', 'ThermalModeNotVaildError', 'ThermalPortNotAvaliableError', 'ThermalTypeNotVaildError', 'Trellis', 'TrellisLite', 'TrellisPortNotAvaliableError', 'UARTBaudRateNotSupportError', 'UARTDataBitNotSupportError', 'UARTExceedMaxLengthError', 'UARTModule', 'UARTParityNotSupportError', 'UARTPortNotAvaliableError', 'UARTQueueOverflowWarning', 'UARTStopBitNotSupportError', 'UDPClient', 'UDP_PKT_LENGTH_MAX', 'UDP_RECV_PORT', 'UDP_SEND_PORT', 'USBClient', 'USBConnectionError', 'USBDevice', 'USB_61E_PLUS_PID', 'USB_61E_PLUS_VID', 'USB_61E_RECEIVE_BYTE', 'USB_61E_RECEIVE_TIMEOUT', 'USB_61E_RECEIVE_TOTAL_BYTES', 'USB_EP_IN', 'USB_EP_OUT', 'USB_PID', 'USB_PKT_SIZE', 'USB_VID', 'WifiDevice', 'WifiModule', 'adjustDataList', 'changeToTrellisPort', 'checkEachItemInRange', 'checkFirmwareError', 'checkFuncPinMap', 'checkInputType', 'checkInputTypeConsistent', 'checkPinMap', 'clearBit', 'coerce', 'convert2U8ToI16', 'convert2U8ToU16', 'convert4U8ToF32', 'convert4U8ToI32', 'convert4U8ToU32', 'convert8U8ToF64', 'convert8U8ToI64', 'convert8U8ToU64', 'convertF32To4U8', 'convertF64To8U8', 'convertI16To2U8', 'convertI32To4U8', 'convertI64To8U8', 'convertIPAddrTo4U8', 'convertIndexAndBinaryListsToInt', 'convertIndexListToInt', 'convertIntToBinaryList', 'convertIntToIndexList', 'convertMACAddrTo6U8', 'convertStrToU8List', 'convertU16To2U8', 'convertU32To4U8', 'convertU64To8U8', 'convertU8ListToStr', 'errAHRSMode', 'errAHRSPort', 'errAIChannel', 'errAIChip', 'errAIMode', 'errAIPort', 'errAIRate', 'errAOChannel', 'errAOForm', 'errAOMode', 'errAOPort', 'errAORate', 'errAOSpan', 'errAPINotSupport', 'errCANDataLength', 'errCANPort', 'errCANSpeed', 'errCANTX', 'errCANTXPriority', 'errCounterchannel', 'errDIPort', 'errDOPort', 'errDPOTChannel', 'errDPOTPort', 'errDeviceClosed', 'errFirmwareAI', 'errFirmwareAO', 'errFirmwareBootloader', 'errFirmwareCAN', 'errFirmwareCore', 'errFirmwareDIO', 'errFirmwareDrive', 'errFirmwareEEPROM', 'errFirmwareEnable', 'errFirmwareEncoder', 'errFirmwareHALIndex', 'errFirmwareI2C', 'errFirmwareMotion', 'errFirmwareOLED', 'errFirmwareORVIndex', 'errFirmwareOther', 'errFirmwarePWM', 'errFirmwareParser', 'errFirmwarePinIndex', 'errFirmwarePulse', 'errFirmwareRTC', 'errFirmwareRelay', 'errFirmwareSPI', 'errFirmwareTCP', 'errFirmwareTIM', 'errFirmwareThermal', 'errFirmwareUART', 'errFirmwareUDP', 'errFirmwareUSB', 'errI2CAddressSize', 'errI2CClock', 'errI2CPort', 'errIniFileName', 'errIniFileNotFound', 'errInputDataNotInRange', 'errInputTypeNotConsistent', 'errInputTypeNotCorrect', 'errLinkNotOpen', 'errMotionAccelerationMode', 'errMotionAxis', 'errMotionBreakPoint', 'errMotionCaptureMode', 'errMotionCaptureType', 'errMotionDirection', 'errMotionEnable', 'errMotionOperationMode', 'errMotionPolarity', 'errMotionPort', 'errMotionSearchDirection', 'errMotionSearchType', 'errMotionStepperOutput', 'errMotionStopMode', 'errNetConnection', 'errNetConnectionLost', 'errPWMchannel', 'errPacketTimeout', 'errPinsNotExist', 'errPinsValueNotDefine', 'errRelayIndex', 'errReplyFormat', 'errSPIDataLengthExceedMax', 'errSPIDataSize', 'errSPIFirstBit', 'errSPIMode', 'errSPIPort', 'errSPIPrescaler', 'errThermalChipSelect', 'errThermalMode', 'errThermalPort', 'errThermalType', 'errTrellisSlot', 'errUARTBaudRate', 'errUARTDataBit', 'errUARTExceedMaxLength', 'errUARTParity', 'errUARTPort', 'errUARTStopBit', 'errUSBConnection', 'fillBit', 'printGenericError', 'readBit', 'warnAHRSOverflow', 'warnAIOverflow', 'warnCANOverflow', 'warnLibNotFound', 'warnUARTOverflow', 'writeBit']
 class Error(Exception):
     """
     The driver's errors: each class has its fixed code and default message.
@@ -1773,6 +1773,666 @@ class _LoopReactor:
         ...
     def _run_timers(self) -> None:
         ...
+class CANFrame:
+    """
+    One CAN frame: identifier (11 or 29 bits), extended and remote flags, eight data bytes, and its twelve-byte wire form.
+    """
+    __hash__: typing.ClassVar[None] = None
+    @staticmethod
+    def fromU8List(u8_list: collections.abc.Sequence[typing.SupportsInt | typing.SupportsIndex]) -> CANFrame:
+        """
+        The frame of a wire form: four identifier bytes, then the data.
+        """
+    @staticmethod
+    def from_message(msg: typing.Any) -> CANFrame:
+        """
+        A frame from a python-can Message: its identifier, flags and data (padded to eight bytes).
+        """
+    @staticmethod
+    def regularizeData(data: collections.abc.Sequence[typing.SupportsInt | typing.SupportsIndex]) -> list[int]:
+        """
+        A copy of data padded with zeros and cut to eight entries.
+        """
+    def __eq__(self, arg0: CANFrame) -> bool:
+        ...
+    def __init__(self, id_: typing.SupportsInt | typing.SupportsIndex, extended_id: bool = False, remote: bool = False, data: collections.abc.Sequence[typing.SupportsInt | typing.SupportsIndex] = [0, 0, 0, 0, 0, 0, 0, 0]) -> None:
+        """
+        A frame; data is copied, padded with zeros and cut to eight bytes.
+        """
+    def __repr__(self) -> str:
+        ...
+    def setID(self) -> None:
+        """
+        Recomputes id_in_list and frame_in_list from id, extended_id, remote and data.
+        """
+    def to_message(self) -> typing.Any:
+        """
+        The frame as a python-can Message (ImportError without python-can).
+        """
+    @property
+    def data(self) -> list[int]:
+        """
+        eight data bytes
+        """
+    @data.setter
+    def data(self, arg0: collections.abc.Sequence[typing.SupportsInt | typing.SupportsIndex]) -> None:
+        ...
+    @property
+    def extended_id(self) -> bool:
+        """
+        True for a 29-bit identifier
+        """
+    @extended_id.setter
+    def extended_id(self, arg0: bool) -> None:
+        ...
+    @property
+    def frame_in_list(self) -> list[int]:
+        """
+        the wire form: id_in_list, then data
+        """
+    @frame_in_list.setter
+    def frame_in_list(self, arg0: collections.abc.Sequence[typing.SupportsInt | typing.SupportsIndex]) -> None:
+        ...
+    @property
+    def id(self) -> int:
+        """
+        the identifier
+        """
+    @id.setter
+    def id(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def id_in_list(self) -> list[int]:
+        """
+        the identifier word as four bytes, high byte first
+        """
+    @id_in_list.setter
+    def id_in_list(self, arg0: collections.abc.Sequence[typing.SupportsInt | typing.SupportsIndex]) -> None:
+        ...
+    @property
+    def remote(self) -> bool:
+        """
+        True for a remote frame
+        """
+    @remote.setter
+    def remote(self, arg0: bool) -> None:
+        ...
+class CANModule:
+    """
+    The device's CAN controller: open, bus speed, receive filters, start, write and read frames, stop, close; received frames are streamed by the device onto one queue.
+    """
+    @staticmethod
+    def _checkCANDataRangeAndLength(data: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkCANSpeed(speed: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkCANTXIndex(mode: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkCANTXPriority(mode: typing.Any) -> bool:
+        ...
+    def CAN_close(self, port: int, timeout: float = 3) -> int:
+        """
+        Stops and closes the controller; when the stop fails, returns its code and sends no close.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def CAN_close_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable CAN_close, without timeout: Stops and closes the controller; when the stop fails, returns its code and sends no close.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def CAN_getPort(self) -> list[int]:
+        """
+        The CAN ports; nothing is sent.
+        
+        Returns:
+            list[int]: the keys of can_dict
+        """
+    def CAN_getPort_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable CAN_getPort, without timeout: The CAN ports; nothing is sent.
+        
+        Returns:
+            list[int]: the keys of can_dict
+        """
+    def CAN_open(self, port: int, timeout: float = 3) -> int:
+        """
+        Opens the controller after reading the modes of its pins; the first open after a close lets the stream thread run.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict, or (after the pin-mode read) a pin index of the bus is in a mode other than Idle, DI or DO on one of the bus's digital ports.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def CAN_open_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable CAN_open, without timeout: Opens the controller after reading the modes of its pins; the first open after a close lets the stream thread run.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict, or (after the pin-mode read) a pin index of the bus is in a mode other than Idle, DI or DO on one of the bus's digital ports.
+        """
+    def CAN_read(self, port: int, num_frames: int, delay: float = 0.005) -> list[CANFrame]:
+        """
+        Takes received frames (one queue for the controller). The blocking method waits until num_frames are there while the controller is open (closed: what is there, at once); the awaitable twin takes what is there, up to num_frames, without waiting.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            num_frames (int): how many frames; -1 for all that are there
+            delay (float): kept for the interface; a frame wakes the reader at once (default 0.005)
+        
+        Returns:
+            list[CANFrame]: the frames, oldest first
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or num_frames is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def CAN_read_async(self, port: int, num_frames: int, delay: float = 0.005) -> collections.abc.Coroutine[typing.Any, typing.Any, list[CANFrame]]:
+        """
+        Awaitable CAN_read, without timeout: Takes received frames (one queue for the controller). The blocking method waits until num_frames are there while the controller is open (closed: what is there, at once); the awaitable twin takes what is there, up to num_frames, without waiting.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            num_frames (int): how many frames; -1 for all that are there
+            delay (float): kept for the interface; a frame wakes the reader at once (default 0.005)
+        
+        Returns:
+            list[CANFrame]: the frames, oldest first
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or num_frames is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def CAN_setRXFilterOrMask(self, port: int, index: int, id_: int, remote: bool = False, extended_id: bool = False, timeout: float = 3) -> int:
+        """
+        Writes one receive filter or mask as a frame's identifier word.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            index (int): filter or mask number, the firmware's (not checked)
+            id_ (int): identifier bits
+            remote (bool): the remote bit (default False)
+            extended_id (bool): a 29-bit identifier (default False)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or id_ is not an int, or remote or extended_id not a bool.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def CAN_setRXFilterOrMask_async(self, port: int, index: int, id_: int, remote: bool = False, extended_id: bool = False) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable CAN_setRXFilterOrMask, without timeout: Writes one receive filter or mask as a frame's identifier word.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            index (int): filter or mask number, the firmware's (not checked)
+            id_ (int): identifier bits
+            remote (bool): the remote bit (default False)
+            extended_id (bool): a 29-bit identifier (default False)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or id_ is not an int, or remote or extended_id not a bool.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def CAN_setRXFilteringOn(self, port: int, on_off: bool, timeout: float = 3) -> int:
+        """
+        Turns the receive filters on or off.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            on_off (bool): True: only frames that pass the filters are received
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or the flag not a bool.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def CAN_setRXFilteringOn_async(self, port: int, on_off: bool) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable CAN_setRXFilteringOn, without timeout: Turns the receive filters on or off.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            on_off (bool): True: only frames that pass the filters are received
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or the flag not a bool.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def CAN_setSpeed(self, port: int, speed_mode: int, timeout: float = 3) -> int:
+        """
+        Sets the bus speed.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            speed_mode (int): 0..3, passed to the firmware as it is
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or speed_mode is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            CANSpeedNotVaildError: speed_mode not in 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def CAN_setSpeed_async(self, port: int, speed_mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable CAN_setSpeed, without timeout: Sets the bus speed.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            speed_mode (int): 0..3, passed to the firmware as it is
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or speed_mode is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            CANSpeedNotVaildError: speed_mode not in 0..3.
+        """
+    def CAN_start(self, port: int, timeout: float = 3) -> int:
+        """
+        Starts the controller. The blocking method sends START_CAN as an exchange and waits for an answer the firmware gives as a stream record, so it ends in ReceivePacketTimeoutError after its timeout; the awaitable twin sends and returns 0 at once.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def CAN_start_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable CAN_start, without timeout: Starts the controller. The blocking method sends START_CAN as an exchange and waits for an answer the firmware gives as a stream record, so it ends in ReceivePacketTimeoutError after its timeout; the awaitable twin sends and returns 0 at once.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def CAN_stop(self, port: int, timeout: float = 3) -> int:
+        """
+        Stops the controller.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def CAN_stop_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable CAN_stop, without timeout: Stops the controller.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def CAN_write(self, port: int, id_: int, data: list[int] | None, remote: bool = False, extended_id: bool = False, timeout: float = 3) -> int:
+        """
+        Writes one frame (TX index 0).
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            id_ (int): identifier, 11 or 29 bits
+            data (list[int] | None): up to 8 bytes; ignored (eight zeros) for a remote frame
+            remote (bool): a remote frame (default False)
+            extended_id (bool): a 29-bit identifier (default False)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or id_ not an int, remote or extended_id not a bool, data not a list.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            CANDataLengthNotVaildError: more than 8 data bytes.
+            InputDataNotInRangeError: a data byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def CAN_write_async(self, port: int, id_: int, data: list[int] | None, remote: bool = False, extended_id: bool = False) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable CAN_write, without timeout: Writes one frame (TX index 0).
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            id_ (int): identifier, 11 or 29 bits
+            data (list[int] | None): up to 8 bytes; ignored (eight zeros) for a remote frame
+            remote (bool): a remote frame (default False)
+            extended_id (bool): a 29-bit identifier (default False)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or id_ not an int, remote or extended_id not a bool, data not a list.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            CANDataLengthNotVaildError: more than 8 data bytes.
+            InputDataNotInRangeError: a data byte outside 0..255.
+        """
+    def _CAN_free(self) -> None:
+        """
+        Ends the stream thread (the model's close does this and joins it).
+        """
+    def _CAN_getCounters(self, port: int, timeout: float = 3) -> list[int]:
+        """
+        Reads the controller's six 32-bit counters.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: six counters, the firmware's order
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _CAN_getCounters_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable _CAN_getCounters, without timeout: Reads the controller's six 32-bit counters.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+        
+        Returns:
+            list[int]: six counters, the firmware's order
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def _CAN_getErrors(self, port: int, timeout: float = 3) -> list[int]:
+        """
+        Reads the controller's error counters.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: [TX error count, RX error count]
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _CAN_getErrors_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable _CAN_getErrors, without timeout: Reads the controller's error counters.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+        
+        Returns:
+            list[int]: [TX error count, RX error count]
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def _CAN_getInterrupts(self, port: int, timeout: float = 3) -> list[int]:
+        """
+        Reads the interrupt words.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: [enabled interrupts, interrupt state, error state]
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _CAN_getInterrupts_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable _CAN_getInterrupts, without timeout: Reads the interrupt words.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+        
+        Returns:
+            list[int]: [enabled interrupts, interrupt state, error state]
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def _CAN_getPinMapPort(self, CAN_port: typing.Any) -> list[int]:
+        """
+        The digital ports the bus's pins lie on, each once.
+        """
+    def _CAN_setEnableInterrupt(self, port: int, status: bool, timeout: float = 3) -> int:
+        """
+        Enables or disables the controller's interrupts.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            status (bool): True to enable
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or the flag not a bool.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _CAN_setEnableInterrupt_async(self, port: int, status: bool) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _CAN_setEnableInterrupt, without timeout: Enables or disables the controller's interrupts.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            status (bool): True to enable
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or the flag not a bool.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def _CAN_setRXRollover(self, port: int, status: bool, timeout: float = 3) -> int:
+        """
+        Turns receive-buffer rollover on or off.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            status (bool): True for rollover
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or the flag not a bool.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _CAN_setRXRollover_async(self, port: int, status: bool) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _CAN_setRXRollover, without timeout: Turns receive-buffer rollover on or off.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            status (bool): True for rollover
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or the flag not a bool.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def _CAN_setTXPriority(self, port: int, tx_mode: int, priority_mode: int, timeout: float = 3) -> int:
+        """
+        Would set a TX buffer's priority; its mode check is reached with one argument too many, so every call with a good port ends in TypeError and nothing is sent.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            tx_mode (int): TX buffer 0..2
+            priority_mode (int): 0..3
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            TypeError: any call with a good port (the mode check's argument count).
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _CAN_setTXPriority_async(self, port: int, tx_mode: int, priority_mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _CAN_setTXPriority, without timeout: Would set a TX buffer's priority; its mode check is reached with one argument too many, so every call with a good port ends in TypeError and nothing is sent.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            tx_mode (int): TX buffer 0..2
+            priority_mode (int): 0..3
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            TypeError: any call with a good port (the mode check's argument count).
+        """
+    def _canFrameQueueSize(self) -> int:
+        """
+        Frames waiting in the frame queue.
+        """
+    def _canGateOpen(self) -> bool:
+        """
+        Whether the stream thread may pass its gate.
+        """
+    def _checkCANPinState_(self, port: int, allow_state: list[str], timeout: float = 3) -> None:
+        """
+        Reads the modes of the digital ports the bus's pins lie on and tests every pin of the bus against each port's modes.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            allow_state (list[str]): mode names that count as free, e.g. ['Idle']
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            None: nothing; raises on a busy pin
+        
+        Raises, before anything is sent:
+            CANPortNotAvaliableError: a pin in a mode not in allow_state (after the read).
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _checkCANPinState_async(self, port: int, allow_state: list[str]) -> collections.abc.Coroutine[typing.Any, typing.Any, None]:
+        """
+        Awaitable _checkCANPinState_, without timeout: Reads the modes of the digital ports the bus's pins lie on and tests every pin of the bus against each port's modes.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            allow_state (list[str]): mode names that count as free, e.g. ['Idle']
+        
+        Returns:
+            None: nothing; raises on a busy pin
+        
+        Raises, before anything is sent:
+            CANPortNotAvaliableError: a pin in a mode not in allow_state (after the read).
+        """
+    def _checkCANPort(self, port: typing.Any) -> bool:
+        ...
+    @property
+    def can_killed(self) -> bool:
+        """
+        True once the stream thread ends.
+        """
+    @property
+    def can_open_flag(self) -> bool:
+        """
+        True from a first open to the matching close.
+        """
 class CounterModule:
     """
     The device's two pulse counters; the host reads 16 bits.
@@ -4301,6 +4961,453 @@ class SystemModule:
     @property
     def thread_info(self) -> str:
         ...
+class UARTModule:
+    """
+    The device's two UARTs: open, line settings, write up to 50 bytes a command, read what the device received (streamed by the device, one thread per port).
+    """
+    @staticmethod
+    def _checkUARTBaudRate(baud_rate: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkUARTDataBit(mode: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkUARTDataLength(data: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkUARTNumStopBitMode(mode: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkUARTParityMode(mode: typing.Any) -> bool:
+        ...
+    def UART_close(self, port: int, timeout: float = 3) -> int:
+        """
+        Stops the reading, closes the UART; the first close after an open parks both stream threads.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def UART_close_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable UART_close, without timeout: Stops the reading, closes the UART; the first close after an open parks both stream threads.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+        """
+    def UART_getPinMap(self) -> dict[int, list[tuple[int, int]]]:
+        """
+        The UART ports and their pins; nothing is sent.
+        
+        Returns:
+            dict[int, list[tuple[int, int]]]: uart_dict: port -> (digital port, pin) pairs
+        """
+    def UART_getPinMap_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, dict[int, list[tuple[int, int]]]]:
+        """
+        Awaitable UART_getPinMap, without timeout: The UART ports and their pins; nothing is sent.
+        
+        Returns:
+            dict[int, list[tuple[int, int]]]: uart_dict: port -> (digital port, pin) pairs
+        """
+    def UART_open(self, port: int, timeout: float = 3) -> int:
+        """
+        Opens a UART after reading the modes of its pins; the first open after a close starts the port's stream and opens both ports' stream gates.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict, or (after the pin-mode read) a pin of the port is in a mode other than Idle, DI or DO.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def UART_open_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable UART_open, without timeout: Opens a UART after reading the modes of its pins; the first open after a close starts the port's stream and opens both ports' stream gates.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict, or (after the pin-mode read) a pin of the port is in a mode other than Idle, DI or DO.
+        """
+    def UART_read(self, port: int, bytes_to_read: int, delay: float = 0.005) -> list[str]:
+        """
+        Takes received bytes of a UART. The blocking method waits until bytes_to_read are there while the UARTs are open (closed: what is there, at once); the awaitable twin takes what is there, up to bytes_to_read, without waiting.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            bytes_to_read (int): how many bytes; -1 for all that are there
+            delay (float): kept for the interface; a byte wakes the reader at once (default 0.005)
+        
+        Returns:
+            list[str]: one one-character string per byte, oldest first
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or bytes_to_read is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+        """
+    def UART_read_async(self, port: int, bytes_to_read: int, delay: float = 0.005) -> collections.abc.Coroutine[typing.Any, typing.Any, list[str]]:
+        """
+        Awaitable UART_read, without timeout: Takes received bytes of a UART. The blocking method waits until bytes_to_read are there while the UARTs are open (closed: what is there, at once); the awaitable twin takes what is there, up to bytes_to_read, without waiting.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            bytes_to_read (int): how many bytes; -1 for all that are there
+            delay (float): kept for the interface; a byte wakes the reader at once (default 0.005)
+        
+        Returns:
+            list[str]: one one-character string per byte, oldest first
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or bytes_to_read is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+        """
+    def UART_reset(self, port: int, timeout: float = 3) -> int:
+        """
+        Resets a UART.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def UART_reset_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable UART_reset, without timeout: Resets a UART.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+        """
+    def UART_setBaudRate(self, port: int, baud_rate: int, timeout: float = 3) -> int:
+        """
+        Sets the baud rate, sent as four bytes, high byte first.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            baud_rate (int): bits per second, at most 400000 (no lower bound)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or baud_rate is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTBaudRateNotSupportError: baud_rate above 400000.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def UART_setBaudRate_async(self, port: int, baud_rate: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable UART_setBaudRate, without timeout: Sets the baud rate, sent as four bytes, high byte first.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            baud_rate (int): bits per second, at most 400000 (no lower bound)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or baud_rate is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTBaudRateNotSupportError: baud_rate above 400000.
+        """
+    def UART_setDataBit(self, port: int, mode: int, timeout: float = 3) -> int:
+        """
+        Sets the data size.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            mode (int): 0 or 1, passed to the firmware as it is
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTDataBitNotSupportError: mode is not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def UART_setDataBit_async(self, port: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable UART_setDataBit, without timeout: Sets the data size.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            mode (int): 0 or 1, passed to the firmware as it is
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTDataBitNotSupportError: mode is not 0 or 1.
+        """
+    def UART_setNumStopBit(self, port: int, mode: int, timeout: float = 3) -> int:
+        """
+        Sets the number of stop bits.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            mode (int): 0..3, passed to the firmware as it is
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTStopBitNotSupportError: mode is not in 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def UART_setNumStopBit_async(self, port: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable UART_setNumStopBit, without timeout: Sets the number of stop bits.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            mode (int): 0..3, passed to the firmware as it is
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTStopBitNotSupportError: mode is not in 0..3.
+        """
+    def UART_setParity(self, port: int, mode: int, timeout: float = 3) -> int:
+        """
+        Sets the parity.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            mode (int): 0..3, passed to the firmware as it is
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTParityNotSupportError: mode is not in 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def UART_setParity_async(self, port: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable UART_setParity, without timeout: Sets the parity.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            mode (int): 0..3, passed to the firmware as it is
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTParityNotSupportError: mode is not in 0..3.
+        """
+    def UART_stopReading(self, port: int, timeout: float = 3) -> int:
+        """
+        Stops the stream of received bytes of a UART.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def UART_stopReading_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable UART_stopReading, without timeout: Stops the stream of received bytes of a UART.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+        """
+    def UART_write(self, port: int, write_data: str | list[str], timeout: float = 3) -> int:
+        """
+        Writes up to 50 characters in one command: a length byte (the items given), then one byte per character code.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            write_data (str | list[str]): a text, or a list of one-character strings; codes 0..255
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or write_data neither a str nor a list.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTExceedMaxLengthError: more than 50 items.
+            TypeError: an item of the list is not a one-character string.
+            ValueError: a character code above 255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def UART_write_async(self, port: int, write_data: str | list[str]) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable UART_write, without timeout: Writes up to 50 characters in one command: a length byte (the items given), then one byte per character code.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            write_data (str | list[str]): a text, or a list of one-character strings; codes 0..255
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or write_data neither a str nor a list.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTExceedMaxLengthError: more than 50 items.
+            TypeError: an item of the list is not a one-character string.
+            ValueError: a character code above 255.
+        """
+    def _UART_free(self) -> None:
+        """
+        Ends both stream threads (the model's close does this and joins them).
+        """
+    def _UART_getPinMapPort(self, UART_port: typing.Any) -> list[int]:
+        """
+        The digital ports the UART's pins lie on, each once.
+        """
+    def _UART_startReading(self, port: int, timeout: float = 3) -> int:
+        """
+        Asks the firmware to stream what the UART receives; no reply is awaited.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _UART_startReading_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _UART_startReading, without timeout: Asks the firmware to stream what the UART receives; no reply is awaited.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+        """
+    def _checkUARTPinState(self, port: int, allow_state: list[str], timeout: float = 3) -> None:
+        """
+        Reads the modes of the digital ports the UART's pins lie on and tests every pin of the UART against each port's modes.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            allow_state (list[str]): mode names that count as free, e.g. ['Idle']
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            None: nothing; raises on a busy pin
+        
+        Raises, before anything is sent:
+            UARTPortNotAvaliableError: a pin in a mode not in allow_state (after the read).
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _checkUARTPinState_async(self, port: int, allow_state: list[str]) -> collections.abc.Coroutine[typing.Any, typing.Any, None]:
+        """
+        Awaitable _checkUARTPinState, without timeout: Reads the modes of the digital ports the UART's pins lie on and tests every pin of the UART against each port's modes.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            allow_state (list[str]): mode names that count as free, e.g. ['Idle']
+        
+        Returns:
+            None: nothing; raises on a busy pin
+        
+        Raises, before anything is sent:
+            UARTPortNotAvaliableError: a pin in a mode not in allow_state (after the read).
+        """
+    def _checkUARTPort(self, port: typing.Any) -> bool:
+        ...
+    def _uartGateOpen(self, port: typing.SupportsInt | typing.SupportsIndex) -> bool:
+        """
+        Whether the stream thread of a port may pass its gate.
+        """
+    def _uartSignalSize(self, port: typing.SupportsInt | typing.SupportsIndex) -> int:
+        """
+        Bytes waiting in a port's signal queue.
+        """
+    @property
+    def uart_killed(self) -> bool:
+        """
+        True once the stream threads end.
+        """
+    @property
+    def uart_open_flag(self) -> bool:
+        """
+        True from a first open to the matching close; one for both ports.
+        """
 class WifiModule:
     """
     The Wi-Fi models' LEDs, power state and radio settings.
@@ -4792,7 +5899,7 @@ class KestrelTherm(ETHDevice, SystemModule, NetworkModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverDio(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverDio(USBDevice, SystemModule, UARTModule, DIOModule, CounterModule, PWMModule):
     """
     PloverDio (Plover-Dio): device class USBDevice; modules System, UART, I2C, SPI, DIO, Counter, PWM.
     
@@ -4800,7 +5907,7 @@ class PloverDio(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverAin(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverAin(USBDevice, SystemModule, UARTModule, DIOModule, CounterModule, PWMModule):
     """
     PloverAin (Plover-Ain): device class USBDevice; modules System, UART, I2C, SPI, AI, DIO, Counter, PWM.
     
@@ -4808,7 +5915,7 @@ class PloverAin(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverTc(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverTc(USBDevice, SystemModule, UARTModule, DIOModule, CounterModule, PWMModule):
     """
     PloverTc (Plover-Tc): device class USBDevice; modules System, UART, I2C, SPI, Thermocouple, DIO, Counter, PWM.
     
@@ -4816,7 +5923,7 @@ class PloverTc(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverCan(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverCan(USBDevice, SystemModule, UARTModule, CANModule, DIOModule, CounterModule, PWMModule):
     """
     PloverCan (Plover-Can): device class USBDevice; modules System, UART, I2C, SPI, CAN, DIO, Counter, PWM.
     
@@ -4832,7 +5939,7 @@ class PloverSink(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverAio(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverAio(USBDevice, SystemModule, UARTModule, DIOModule, CounterModule, PWMModule):
     """
     PloverAio (Plover-Aio): device class USBDevice; modules System, UART, I2C, AI, AO, DIO, Counter, PWM.
     
@@ -4840,7 +5947,7 @@ class PloverAio(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverRtd(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverRtd(USBDevice, SystemModule, UARTModule, DIOModule, CounterModule, PWMModule):
     """
     PloverRtd (Plover-Rtd): device class USBDevice; modules System, UART, I2C, SPI, ThermalResistance, DIO, Counter, PWM.
     
