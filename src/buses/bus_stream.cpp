@@ -45,9 +45,42 @@ void BusStream::run(const std::atomic<bool>& killed) {
   }
 }
 
-Bytes takeFromQueue(const Call& c, StreamQueue& q, int64_t n, bool can_arrive) {
-  if (!c.isAwaitable() && can_arrive && n > 0)
-    c.waitQueue(q, static_cast<size_t>(n), Clock::time_point::max());
+void PendingReads::add(CancelToken* tok) {
+  std::lock_guard lk(m_);
+  toks_.push_back(tok);
+}
+
+void PendingReads::remove(CancelToken* tok) {
+  std::lock_guard lk(m_);
+  toks_.erase(std::remove(toks_.begin(), toks_.end(), tok), toks_.end());
+}
+
+void PendingReads::wakeAll() {
+  std::lock_guard lk(m_);
+  for (CancelToken* tok : toks_) tok->cancel();
+}
+
+Bytes takeFromQueue(const Call& c, StreamQueue& q, int64_t n,
+                    const std::function<bool()>& stream_open, PendingReads& pending) {
+  if (!c.isAwaitable() && n > 0) {
+    // Registered before the look at the stream: a close after the look
+    // still finds this read.
+    CancelToken closed;
+    pending.add(&closed);
+    try {
+      if (stream_open())
+        Device::waitQueue(q, static_cast<size_t>(n), Clock::time_point::max(), &closed);
+    } catch (const Cancelled&) {
+      if (!closed.cancelled()) {
+        pending.remove(&closed);
+        throw;
+      }
+    } catch (...) {
+      pending.remove(&closed);
+      throw;
+    }
+    pending.remove(&closed);
+  }
   return c.device().getStreamingFromPoolAsync(q, n);
 }
 

@@ -11,6 +11,7 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <thread>
 #include <vector>
 
@@ -50,10 +51,25 @@ class BusStream {
   std::thread thread_;
 };
 
+// The blocking reads waiting on a bus's queues: the bus's close wakes them,
+// and they return what is there.
+class PendingReads {
+ public:
+  void add(CancelToken* tok);
+  void remove(CancelToken* tok);
+  void wakeAll();
+
+ private:
+  std::mutex m_;
+  std::vector<CancelToken*> toks_;
+};
+
 // Up to n items of a bus's queue, flattened (n -1: all there are).  The
-// blocking twin first waits until n are there, while `can_arrive` (the stream
-// is open); the awaitable twin takes what is there.
-Bytes takeFromQueue(const Call& c, StreamQueue& q, int64_t n, bool can_arrive);
+// blocking twin first waits until n are there while `stream_open()` holds,
+// or until the bus's close wakes it through `pending`; the awaitable twin
+// takes what is there.
+Bytes takeFromQueue(const Call& c, StreamQueue& q, int64_t n,
+                    const std::function<bool()>& stream_open, PendingReads& pending);
 
 // The pin check of a bus: reads the modes of each digital port the bus's pins
 // lie on (Sys_getPinModeInPort) and tests every pin of the bus against each

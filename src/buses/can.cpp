@@ -215,6 +215,7 @@ int CANModule::CAN_close(const Call& c, const Value& port) {
     if (status == 0) {
       stream_.gate().close();
       stream_.pushMarker();
+      pending_.wakeAll();  // reads waiting for frames that cannot come
     }
   }
   try {
@@ -300,7 +301,8 @@ std::vector<CANFrame> CANModule::CAN_read(const Call& c, const Value& port, cons
   _checkCANPort(port);
   checkInputType(num_frames, kTypeInt);
   (void)delay;  // a frame wakes the reader at once
-  const Bytes flat = takeFromQueue(c, frames_, num_frames.asInt(), stream_.gate().isOpen());
+  const Bytes flat = takeFromQueue(
+      c, frames_, num_frames.asInt(), [this] { return stream_.gate().isOpen(); }, pending_);
   std::vector<CANFrame> out;
   out.reserve(flat.size() / CAN_FRAME_BYTES);
   for (size_t at = 0; at + CAN_FRAME_BYTES <= flat.size(); at += CAN_FRAME_BYTES)

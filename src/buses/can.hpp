@@ -125,6 +125,7 @@ class CANModule : public ModuleBase {
   std::atomic<bool> open_flag_{false};  // can_open_flag
   std::atomic<bool> killed_{false};     // can_killed
   std::mutex start_m_;
+  PendingReads pending_;
 };
 ORV_MODULE_CLASS("CAN", CANModule);
 

@@ -162,6 +162,7 @@ int UARTModule::UART_close(const Call& c, const Value& port) {
     if (status == 0) {
       for (Port& p : ports_) p.stream.gate().close();
       for (Port& p : ports_) p.stream.pushMarker();
+      pending_.wakeAll();  // reads waiting for bytes that cannot come
     }
   }
   try {
@@ -234,8 +235,9 @@ std::vector<std::string> UARTModule::UART_read(const Call& c, const Value& port,
   checkInputType(bytes_to_read, kTypeInt);
   StreamQueue& queue = portOf(port.asInt()).signal;
   (void)delay;  // a byte wakes the reader at once
-  const Bytes bytes =
-      takeFromQueue(c, queue, bytes_to_read.asInt(), portOf(port.asInt()).stream.gate().isOpen());
+  Port& p = portOf(port.asInt());
+  const Bytes bytes = takeFromQueue(
+      c, queue, bytes_to_read.asInt(), [&p] { return p.stream.gate().isOpen(); }, pending_);
   std::vector<std::string> out;
   out.reserve(bytes.size());
   for (uint8_t b : bytes) out.push_back(charOf(b));

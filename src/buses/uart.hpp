@@ -97,6 +97,7 @@ class UARTModule : public ModuleBase {
   std::atomic<bool> open_flag_{false};  // uart_open_flag
   std::atomic<bool> killed_{false};     // uart_killed
   std::mutex start_m_;
+  PendingReads pending_;
 };
 ORV_MODULE_CLASS("UART", UARTModule);
 

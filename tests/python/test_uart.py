@@ -150,6 +150,18 @@ def test_read_on_a_closed_port_returns_what_is_there_at_once(plover):
     assert dev.UART_read(1, 5) == ["x", "y", "z"]  # what was left, no wait for the rest
 
 
+def test_a_close_ends_a_read_waiting_in_another_thread_with_what_is_there(plover):
+    dev, s = opened(plover, (1, 1))
+    dev.UART_write(1, "ab")
+    got = []
+    t = threading.Thread(target=lambda: got.append(dev.UART_read(1, 10)))
+    t.start()
+    assert not wait_until(lambda: got, timeout=0.2)  # 2 of 10: it waits
+    assert dev.UART_close(1) == 0
+    t.join(5)
+    assert got == [["a", "b"]]
+
+
 def test_a_megabyte_stream_arrives_whole_and_overflow_drops_with_warnings(plover):
     dev, s = plover
     n = 1_000_000  # the signal queue's bound
