@@ -235,22 +235,38 @@ bool SimDevice::writePacket(Channel ch, const Bytes& pkt) {
   return link->write(buf, split, pause);
 }
 
+namespace {
+// A packet to the host.  The host reads a first command byte of 48 or below
+// as the high byte of a two-byte command, so the firmware sends such a code
+// (OPEN_CAN) in two-byte form with a high byte of 0.
+Bytes firmwarePacket(int cmd, const Bytes& data) {
+  if (cmd < 0 || cmd > 48) return preparePacket(cmd, std::span<const uint8_t>(data));
+  const size_t length = data.size() + 2;
+  Bytes pkt{CMD_STX, static_cast<uint8_t>(length >> 8), static_cast<uint8_t>(length & 0xFF), 0,
+            static_cast<uint8_t>(cmd)};
+  pkt.insert(pkt.end(), data.begin(), data.end());
+  pkt.push_back(CMD_CR);
+  pkt.push_back(CMD_LF);
+  return pkt;
+}
+}  // namespace
+
 bool SimDevice::writeReply(Channel ch, int cmd, const Bytes& data) {
   if (Faults::take(faults_.drop_next)) return false;
   const int64_t delay = faults_.delay_us.load();
   if (delay > 0 && !stopper_->sleepFor(std::chrono::microseconds(delay))) return false;
-  Bytes pkt = preparePacket(cmd, std::span<const uint8_t>(data));
+  Bytes pkt = firmwarePacket(cmd, data);
   if (Faults::take(faults_.corrupt_next)) pkt[1] |= 0x80;
   return writePacket(ch, pkt);
 }
 
 bool SimDevice::writeStream(int cmd, const Bytes& data) {
-  return writePacket(streamChannel(), preparePacket(cmd, std::span<const uint8_t>(data)));
+  return writePacket(streamChannel(), firmwarePacket(cmd, data));
 }
 
 bool SimDevice::send(int cmd, Bytes data, Channel ch) {
   if (ch == Channel::Auto) ch = isStreamingCmd(cmd) ? streamChannel() : Channel::Cmd;
-  return writePacket(ch, preparePacket(cmd, std::span<const uint8_t>(data)));
+  return writePacket(ch, firmwarePacket(cmd, data));
 }
 
 Bytes SimDevice::counterBytes(size_t n) {
