@@ -47,6 +47,7 @@ void DataLogger::run() {
     drained_.notify_all();
   }
   tid_ = 0;
+  ended_ = true;
   writing_ = false;
   drained_.notify_all();
 }
@@ -107,14 +108,14 @@ int DataLogger::Logger_close_(bool) {
     gate_open_ = true;
   }
   cv_.notify_all();
+  // The writer runs out at once: it holds no entry across the close.
+  std::lock_guard jl(join_m_);
+  if (save_data_thread_.joinable() && save_data_thread_.get_id() != std::this_thread::get_id())
+    save_data_thread_.join();
   return 0;
 }
 
-void DataLogger::closeModule() noexcept {
-  Logger_close_(false);
-  if (save_data_thread_.joinable() && save_data_thread_.get_id() != std::this_thread::get_id())
-    save_data_thread_.join();
-}
+void DataLogger::closeModule() noexcept { Logger_close_(false); }
 
 bool DataLogger::loggerKilled() const {
   std::lock_guard lk(m_);
@@ -145,7 +146,7 @@ bool DataLogger::flush(double timeout_s) {
   std::unique_lock lk(m_);
   const auto deadline = std::chrono::steady_clock::now() + std::chrono::duration<double>(timeout_s);
   drained_.wait_until(lk, deadline, [&] {
-    return tid_ == 0 || (queue_.empty() && !writing_) || (!gate_open_ && !writing_);
+    return ended_ || (queue_.empty() && !writing_) || (!gate_open_ && !writing_);
   });
   return queue_.empty();
 }

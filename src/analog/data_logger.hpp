@@ -39,7 +39,7 @@ class DataLogger : public ModuleBase {
   int Logger_writeValue(CsvField value);
   int Logger_close_(bool verbose = true);
   // The model's close frees the logger after the device's.
-  void closeModule() noexcept;
+  void closeModule() noexcept override;
 
   bool loggerKilled() const;
   std::string filename() const;
@@ -62,6 +62,7 @@ class DataLogger : public ModuleBase {
   bool gate_open_ = false;
   bool killed_ = false;
   bool writing_ = false;
+  bool ended_ = false;
   std::deque<std::vector<CsvRow>> queue_;
   std::string filename_;
   long tid_ = 0;
@@ -69,6 +70,7 @@ class DataLogger : public ModuleBase {
   std::mutex file_m_;  // the file, between the writer and close
   std::FILE* f_handle_ = nullptr;
 
+  std::mutex join_m_;  // one joiner at a time (a user's close and the model's)
   std::thread save_data_thread_;
 };
 ORV_MODULE_CLASS("DataLogger", DataLogger);

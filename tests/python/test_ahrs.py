@@ -62,7 +62,7 @@ def test_estimates_degrees_first_then_raw_acceleration(imu, mode, mask):
     angles = [round(as_f32(math.radians(d)) * 180 / math.pi, 4) for d in (10.0, -45.5, 179.0)]
     accel = [round(as_f32(a), 4) for a in (0.123456, -9.80665, 1.5)]
     assert got == {0: angles, 1: accel, 2: angles + accel}[mode]
-    assert angles == [10.0, -45.5, 179.0] and accel == [0.1235, -9.8066, 1.5]
+    assert angles == [10.0, -45.5, 179.0] and accel == [0.1235, -9.8067, 1.5]
 
 
 def test_short_estimate_raises_index_error(imu):
