@@ -3,6 +3,8 @@ the host's csv module writes them; the logger as a base of the model classes."""
 
 import csv
 import io
+import random
+import struct
 from decimal import Decimal
 
 import pytest
@@ -52,6 +54,17 @@ def test_rows_are_byte_exact_with_the_csv_module(logger, tmp_path):
     assert logger.Logger_write2DList(ROWS[5:]) == 0
     assert logger._Logger_flush()
     assert path.read_bytes() == python_csv(ROWS)
+
+
+def test_random_floats_read_as_repr(logger, tmp_path):
+    rnd = random.Random(5)
+    rows = [[struct.unpack("<d", rnd.randbytes(8))[0] for _ in range(50)] for _ in range(40)]
+    rows += [[rnd.uniform(-1e6, 1e6) for _ in range(50)], [10.0 ** e for e in range(-30, 30)]]
+    path = tmp_path / "r.csv"
+    logger.Logger_openFile(str(path), verbose=False)
+    logger.Logger_write2DList(rows)
+    assert logger._Logger_flush()
+    assert path.read_bytes() == python_csv(rows)
 
 
 def test_value_rows_empty_matrix_and_append(logger, tmp_path):
