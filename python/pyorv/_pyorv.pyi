@@ -5,7 +5,7 @@ from __future__ import annotations
 import collections.abc
 import typing
 from . import _sim
-__all__: list[str] = ['AHRSModeNotAvaliableError', 'AHRSPortNotAvaliableError', 'AHRSQueueOverflowWarning', 'AHRS_START', 'AICSNotAvaliableError', 'AIChannelNotAvaliableError', 'AIModeNotAvaliableError', 'AIPortNotAvaliableError', 'AIQueueOverflowWarning', 'AIRateNotVaildError', 'AOChannelNotAvaliableError', 'AOFormNotAvaliableError', 'AOModeNotVaildError', 'AOPortNotAvaliableError', 'AORateNotVaildError', 'AOSpanNotVaildError', 'APINotSupportError', 'BROADCAST_CMD_LIST', 'BroadcastDevice', 'BroadcastModule', 'CANDataLengthNotVaildError', 'CANPortNotAvaliableError', 'CANQueueOverflowWarning', 'CANSpeedNotVaildError', 'CANTXNotVaildError', 'CANTXPriorityNotVaildError', 'CHECK_MAC_AND_REBOOT', 'CHECK_MAC_AND_SET_IP', 'CMD_CR', 'CMD_CR_2', 'CMD_INDEX', 'CMD_INDEX_2', 'CMD_LF', 'CMD_LF_2', 'CMD_STX', 'CMD_STX_2', 'CONNECTION_TIMEOUT', 'Client', 'CounterChannelNotAvaliableError', 'CounterModule', 'DIOModule', 'DIPortNotAvaliableError', 'DOPortNotAvaliableError', 'DPOTChannelNotAvaliableError', 'DPOTModule', 'DPOTPortNotAvaliableError', 'Device', 'DeviceClosedError', 'DeviceFinder', 'ECHO_DELAY', 'ETHDevice', 'Error', 'ExtLibNotFoundWarning', 'FirmwareAIError', 'FirmwareAOError', 'FirmwareBootloaderError', 'FirmwareCANError', 'FirmwareCoreError', 'FirmwareDIOError', 'FirmwareDriveError', 'FirmwareEEPROMError', 'FirmwareEnableError', 'FirmwareEncoderError', 'FirmwareHALIndexError', 'FirmwareI2CError', 'FirmwareMotionError', 'FirmwareOLEDError', 'FirmwareORVIndexError', 'FirmwareOtherError', 'FirmwarePWMError', 'FirmwareParserError', 'FirmwarePinIndexError', 'FirmwarePulseError', 'FirmwareRTCError', 'FirmwareRelayError', 'FirmwareSPIError', 'FirmwareTCPError', 'FirmwareTIMError', 'FirmwareThermalError', 'FirmwareUARTError', 'FirmwareUDPError', 'FirmwareUSBError', 'GET_DEVICE_INFO', 'GET_DRIVER_INFO', 'HANDLE_DICT', 'HANDLE_LIST', 'HeronAin', 'HeronAinImu', 'HeronAinPlus', 'I2CAddressSizeNotVaildError', 'I2CClockNotSupportError', 'I2CPortNotAvaliableError', 'IniFileExtensionNameError', 'IniFileNotFoundError', 'InputDataNotInRangeError', 'InputTypeNotConsistentError', 'InputTypeNotCorrectError', 'KestrelAin', 'KestrelAout', 'KestrelCin', 'KestrelCvin', 'KestrelDio', 'KestrelDioX', 'KestrelRelay', 'KestrelRes', 'KestrelTherm', 'LABEL_DICT', 'LinkNotOpenError', 'MOTION', 'MRDRPortNotAvaliable', 'MerlinAxis', 'MerlinDrive', 'MotionAccelerationModeError', 'MotionAxisError', 'MotionBreakPointModeError', 'MotionCaptureModeError', 'MotionCaptureTypeError', 'MotionDirectionError', 'MotionEnableError', 'MotionOperationModeError', 'MotionPolarityError', 'MotionPortNotAvaliable', 'MotionSearchDirectionError', 'MotionSearchTypeError', 'MotionStepperOutputError', 'MotionStopModeError', 'NUM_BCST_RETRIES', 'NUM_RETRIES', 'NetworkClient', 'NetworkConnectionError', 'NetworkConnectionLostError', 'NetworkDevice', 'NetworkModule', 'OPEN_CAN', 'ORVWarning', 'PACKET_TIMEOUT', 'PRODUCT_LIST', 'PWMChannelNotAvaliableError', 'PWMModule', 'PinsNotExistError', 'PinsValueNotDefineError', 'PloverAin', 'PloverAio', 'PloverCan', 'PloverDio', 'PloverRtd', 'PloverSink', 'PloverTc', 'QUEUE_SIZE_MAX', 'QUEUE_TIMEOUT', 'RETRY_TIMEOUT', 'ReceivePacketTimeoutError', 'RelayCounterIndexError', 'RelayModule', 'ReplyFormatError', 'SPIDataLengthExceedMaxError', 'SPIDataSizeNotVaildError', 'SPIFirstBitNotVaildError', 'SPIModeNotVaildError', 'SPIPortNotAvaliableError', 'SPIPrescalerNotVaildError', 'START_AI_STREAMING', 'START_AI_STREAMING_VARIABLE', 'START_AO_STREAMING', 'START_CAN', 'START_MOTION_MONITORING', 'START_UART_READING', 'STREAMING_CMD_LIST', 'StreamQueue', 'SystemAnalogModule', 'SystemModule', 'TCPClient', 'TCP_CMD_PORT', 'TCP_DATA_LENGTH_MAX', 'TCP_DATA_PORT', 'TCP_PKT_LENGTH_MAX', 'ThermalChipSelectNotAvaliableError', 'ThermalModeNotVaildError', 'ThermalPortNotAvaliableError', 'ThermalTypeNotVaildError', 'Trellis', 'TrellisLite', 'TrellisPortNotAvaliableError', 'UARTBaudRateNotSupportError', 'UARTDataBitNotSupportError', 'UARTExceedMaxLengthError', 'UARTParityNotSupportError', 'UARTPortNotAvaliableError', 'UARTQueueOverflowWarning', 'UARTStopBitNotSupportError', 'UDPClient', 'UDP_PKT_LENGTH_MAX', 'UDP_RECV_PORT', 'UDP_SEND_PORT', 'USBClient', 'USBConnectionError', 'USBDevice', 'USB_61E_PLUS_PID', 'USB_61E_PLUS_VID', 'USB_61E_RECEIVE_BYTE', 'USB_61E_RECEIVE_TIMEOUT', 'USB_61E_RECEIVE_TOTAL_BYTES', 'USB_EP_IN', 'USB_EP_OUT', 'USB_PID', 'USB_PKT_SIZE', 'USB_VID', 'WifiDevice', 'WifiModule', 'adjustDataList', 'changeToTrellisPort', 'checkEachItemInRange', 'checkFirmwareError', 'checkFuncPinMap', 'checkInputType', 'checkInputTypeConsistent', 'checkPinMap', 'clearBit', 'coerce', 'convert2U8ToI16', 'convert2U8ToU16', 'convert4U8ToF32', 'convert4U8ToI32', 'convert4U8ToU32', 'convert8U8ToF64', 'convert8U8ToI64', 'convert8U8ToU64', 'convertF32To4U8', 'convertF64To8U8', 'convertI16To2U8', 'convertI32To4U8', 'convertI64To8U8', 'convertIPAddrTo4U8', 'convertIndexAndBinaryListsToInt', 'convertIndexListToInt', 'convertIntToBinaryList', 'convertIntToIndexList', 'convertMACAddrTo6U8', 'convertStrToU8List', 'convertU16To2U8', 'convertU32To4U8', 'convertU64To8U8', 'convertU8ListToStr', 'errAHRSMode', 'errAHRSPort', 'errAIChannel', 'errAIChip', 'errAIMode', 'errAIPort', 'errAIRate', 'errAOChannel', 'errAOForm', 'errAOMode', 'errAOPort', 'errAORate', 'errAOSpan', 'errAPINotSupport', 'errCANDataLength', 'errCANPort', 'errCANSpeed', 'errCANTX', 'errCANTXPriority', 'errCounterchannel', 'errDIPort', 'errDOPort', 'errDPOTChannel', 'errDPOTPort', 'errDeviceClosed', 'errFirmwareAI', 'errFirmwareAO', 'errFirmwareBootloader', 'errFirmwareCAN', 'errFirmwareCore', 'errFirmwareDIO', 'errFirmwareDrive', 'errFirmwareEEPROM', 'errFirmwareEnable', 'errFirmwareEncoder', 'errFirmwareHALIndex', 'errFirmwareI2C', 'errFirmwareMotion', 'errFirmwareOLED', 'errFirmwareORVIndex', 'errFirmwareOther', 'errFirmwarePWM', 'errFirmwareParser', 'errFirmwarePinIndex', 'errFirmwarePulse', 'errFirmwareRTC', 'errFirmwareRelay', 'errFirmwareSPI', 'errFirmwareTCP', 'errFirmwareTIM', 'errFirmwareThermal', 'errFirmwareUART', 'errFirmwareUDP', 'errFirmwareUSB', 'errI2CAddressSize', 'errI2CClock', 'errI2CPort', 'errIniFileName', 'errIniFileNotFound', 'errInputDataNotInRange', 'errInputTypeNotConsistent', 'errInputTypeNotCorrect', 'errLinkNotOpen', 'errMotionAccelerationMode', 'errMotionAxis', 'errMotionBreakPoint', 'errMotionCaptureMode', 'errMotionCaptureType', 'errMotionDirection', 'errMotionEnable', 'errMotionOperationMode', 'errMotionPolarity', 'errMotionPort', 'errMotionSearchDirection', 'errMotionSearchType', 'errMotionStepperOutput', 'errMotionStopMode', 'errNetConnection', 'errNetConnectionLost', 'errPWMchannel', 'errPacketTimeout', 'errPinsNotExist', 'errPinsValueNotDefine', 'errRelayIndex', 'errReplyFormat', 'errSPIDataLengthExceedMax', 'errSPIDataSize', 'errSPIFirstBit', 'errSPIMode', 'errSPIPort', 'errSPIPrescaler', 'errThermalChipSelect', 'errThermalMode', 'errThermalPort', 'errThermalType', 'errTrellisSlot', 'errUARTBaudRate', 'errUARTDataBit', 'errUARTExceedMaxLength', 'errUARTParity', 'errUARTPort', 'errUARTStopBit', 'errUSBConnection', 'fillBit', 'printGenericError', 'readBit', 'warnAHRSOverflow', 'warnAIOverflow', 'warnCANOverflow', 'warnLibNotFound', 'warnUARTOverflow', 'writeBit']
+__all__: list[str] = ['AHRSModeNotAvaliableError', 'AHRSModule', 'AHRSPortNotAvaliableError', 'AHRSQueueOverflowWarning', 'AHRS_START', 'AICSNotAvaliableError', 'AIChannelNotAvaliableError', 'AIModeNotAvaliableError', 'AIPortNotAvaliableError', 'AIQueueOverflowWarning', 'AIRateNotVaildError', 'AOChannelNotAvaliableError', 'AOFormNotAvaliableError', 'AOModeNotVaildError', 'AOPortNotAvaliableError', 'AORateNotVaildError', 'AOSpanNotVaildError', 'APINotSupportError', 'BROADCAST_CMD_LIST', 'BroadcastDevice', 'BroadcastModule', 'CANDataLengthNotVaildError', 'CANPortNotAvaliableError', 'CANQueueOverflowWarning', 'CANSpeedNotVaildError', 'CANTXNotVaildError', 'CANTXPriorityNotVaildError', 'CHECK_MAC_AND_REBOOT', 'CHECK_MAC_AND_SET_IP', 'CMD_CR', 'CMD_CR_2', 'CMD_INDEX', 'CMD_INDEX_2', 'CMD_LF', 'CMD_LF_2', 'CMD_STX', 'CMD_STX_2', 'CONNECTION_TIMEOUT', 'Client', 'CounterChannelNotAvaliableError', 'CounterModule', 'DIOModule', 'DIPortNotAvaliableError', 'DOPortNotAvaliableError', 'DPOTChannelNotAvaliableError', 'DPOTModule', 'DPOTPortNotAvaliableError', 'DataLogger', 'Device', 'DeviceClosedError', 'DeviceFinder', 'ECHO_DELAY', 'ETHDevice', 'Error', 'ExtLibNotFoundWarning', 'FirmwareAIError', 'FirmwareAOError', 'FirmwareBootloaderError', 'FirmwareCANError', 'FirmwareCoreError', 'FirmwareDIOError', 'FirmwareDriveError', 'FirmwareEEPROMError', 'FirmwareEnableError', 'FirmwareEncoderError', 'FirmwareHALIndexError', 'FirmwareI2CError', 'FirmwareMotionError', 'FirmwareOLEDError', 'FirmwareORVIndexError', 'FirmwareOtherError', 'FirmwarePWMError', 'FirmwareParserError', 'FirmwarePinIndexError', 'FirmwarePulseError', 'FirmwareRTCError', 'FirmwareRelayError', 'FirmwareSPIError', 'FirmwareTCPError', 'FirmwareTIMError', 'FirmwareThermalError', 'FirmwareUARTError', 'FirmwareUDPError', 'FirmwareUSBError', 'GET_DEVICE_INFO', 'GET_DRIVER_INFO', 'HANDLE_DICT', 'HANDLE_LIST', 'HeronAin', 'HeronAinImu', 'HeronAinPlus', 'I2CAddressSizeNotVaildError', 'I2CClockNotSupportError', 'I2CPortNotAvaliableError', 'IniFileExtensionNameError', 'IniFileNotFoundError', 'InputDataNotInRangeError', 'InputTypeNotConsistentError', 'InputTypeNotCorrectError', 'KestrelAin', 'KestrelAout', 'KestrelCin', 'KestrelCvin', 'KestrelDio', 'KestrelDioX', 'KestrelRelay', 'KestrelRes', 'KestrelTherm', 'LABEL_DICT', 'LinkNotOpenError', 'MOTION', 'MRDRPortNotAvaliable', 'Measurement', 'MerlinAxis', 'MerlinDrive', 'MotionAccelerationModeError', 'MotionAxisError', 'MotionBreakPointModeError', 'MotionCaptureModeError', 'MotionCaptureTypeError', 'MotionDirectionError', 'MotionEnableError', 'MotionOperationModeError', 'MotionPolarityError', 'MotionPortNotAvaliable', 'MotionSearchDirectionError', 'MotionSearchTypeError', 'MotionStepperOutputError', 'MotionStopModeError', 'NUM_BCST_RETRIES', 'NUM_RETRIES', 'NetworkClient', 'NetworkConnectionError', 'NetworkConnectionLostError', 'NetworkDevice', 'NetworkModule', 'OPEN_CAN', 'ORVWarning', 'PACKET_TIMEOUT', 'PRODUCT_LIST', 'PWMChannelNotAvaliableError', 'PWMModule', 'PinsNotExistError', 'PinsValueNotDefineError', 'PloverAin', 'PloverAio', 'PloverCan', 'PloverDio', 'PloverRtd', 'PloverSink', 'PloverTc', 'QUEUE_SIZE_MAX', 'QUEUE_TIMEOUT', 'RETRY_TIMEOUT', 'ReceivePacketTimeoutError', 'RelayCounterIndexError', 'RelayModule', 'ReplyFormatError', 'SPIDataLengthExceedMaxError', 'SPIDataSizeNotVaildError', 'SPIFirstBitNotVaildError', 'SPIModeNotVaildError', 'SPIPortNotAvaliableError', 'SPIPrescalerNotVaildError', 'START_AI_STREAMING', 'START_AI_STREAMING_VARIABLE', 'START_AO_STREAMING', 'START_CAN', 'START_MOTION_MONITORING', 'START_UART_READING', 'STREAMING_CMD_LIST', 'StreamQueue', 'SystemAnalogModule', 'SystemModule', 'TCPClient', 'TCP_CMD_PORT', 'TCP_DATA_LENGTH_MAX', 'TCP_DATA_PORT', 'TCP_PKT_LENGTH_MAX', 'ThermalChipSelectNotAvaliableError', 'ThermalModeNotVaildError', 'ThermalModule', 'ThermalPortNotAvaliableError', 'ThermalResistanceModule', 'ThermalTypeNotVaildError', 'ThermocoupleModule', 'Trellis', 'TrellisLite', 'TrellisPortNotAvaliableError', 'UARTBaudRateNotSupportError', 'UARTDataBitNotSupportError', 'UARTExceedMaxLengthError', 'UARTParityNotSupportError', 'UARTPortNotAvaliableError', 'UARTQueueOverflowWarning', 'UARTStopBitNotSupportError', 'UDPClient', 'UDP_PKT_LENGTH_MAX', 'UDP_RECV_PORT', 'UDP_SEND_PORT', 'USBClient', 'USBConnectionError', 'USBDevice', 'USB_61E_PLUS_PID', 'USB_61E_PLUS_VID', 'USB_61E_RECEIVE_BYTE', 'USB_61E_RECEIVE_TIMEOUT', 'USB_61E_RECEIVE_TOTAL_BYTES', 'USB_EP_IN', 'USB_EP_OUT', 'USB_PID', 'USB_PKT_SIZE', 'USB_VID', 'WifiDevice', 'WifiModule', 'adjustDataList', 'changeToTrellisPort', 'checkEachItemInRange', 'checkFirmwareError', 'checkFuncPinMap', 'checkInputType', 'checkInputTypeConsistent', 'checkPinMap', 'clearBit', 'coerce', 'convert2U8ToI16', 'convert2U8ToU16', 'convert4U8ToF32', 'convert4U8ToI32', 'convert4U8ToU32', 'convert8U8ToF64', 'convert8U8ToI64', 'convert8U8ToU64', 'convertF32To4U8', 'convertF64To8U8', 'convertI16To2U8', 'convertI32To4U8', 'convertI64To8U8', 'convertIPAddrTo4U8', 'convertIndexAndBinaryListsToInt', 'convertIndexListToInt', 'convertIntToBinaryList', 'convertIntToIndexList', 'convertMACAddrTo6U8', 'convertStrToU8List', 'convertU16To2U8', 'convertU32To4U8', 'convertU64To8U8', 'convertU8ListToStr', 'errAHRSMode', 'errAHRSPort', 'errAIChannel', 'errAIChip', 'errAIMode', 'errAIPort', 'errAIRate', 'errAOChannel', 'errAOForm', 'errAOMode', 'errAOPort', 'errAORate', 'errAOSpan', 'errAPINotSupport', 'errCANDataLength', 'errCANPort', 'errCANSpeed', 'errCANTX', 'errCANTXPriority', 'errCounterchannel', 'errDIPort', 'errDOPort', 'errDPOTChannel', 'errDPOTPort', 'errDeviceClosed', 'errFirmwareAI', 'errFirmwareAO', 'errFirmwareBootloader', 'errFirmwareCAN', 'errFirmwareCore', 'errFirmwareDIO', 'errFirmwareDrive', 'errFirmwareEEPROM', 'errFirmwareEnable', 'errFirmwareEncoder', 'errFirmwareHALIndex', 'errFirmwareI2C', 'errFirmwareMotion', 'errFirmwareOLED', 'errFirmwareORVIndex', 'errFirmwareOther', 'errFirmwarePWM', 'errFirmwareParser', 'errFirmwarePinIndex', 'errFirmwarePulse', 'errFirmwareRTC', 'errFirmwareRelay', 'errFirmwareSPI', 'errFirmwareTCP', 'errFirmwareTIM', 'errFirmwareThermal', 'errFirmwareUART', 'errFirmwareUDP', 'errFirmwareUSB', 'errI2CAddressSize', 'errI2CClock', 'errI2CPort', 'errIniFileName', 'errIniFileNotFound', 'errInputDataNotInRange', 'errInputTypeNotConsistent', 'errInputTypeNotCorrect', 'errLinkNotOpen', 'errMotionAccelerationMode', 'errMotionAxis', 'errMotionBreakPoint', 'errMotionCaptureMode', 'errMotionCaptureType', 'errMotionDirection', 'errMotionEnable', 'errMotionOperationMode', 'errMotionPolarity', 'errMotionPort', 'errMotionSearchDirection', 'errMotionSearchType', 'errMotionStepperOutput', 'errMotionStopMode', 'errNetConnection', 'errNetConnectionLost', 'errPWMchannel', 'errPacketTimeout', 'errPinsNotExist', 'errPinsValueNotDefine', 'errRelayIndex', 'errReplyFormat', 'errSPIDataLengthExceedMax', 'errSPIDataSize', 'errSPIFirstBit', 'errSPIMode', 'errSPIPort', 'errSPIPrescaler', 'errThermalChipSelect', 'errThermalMode', 'errThermalPort', 'errThermalType', 'errTrellisSlot', 'errUARTBaudRate', 'errUARTDataBit', 'errUARTExceedMaxLength', 'errUARTParity', 'errUARTPort', 'errUARTStopBit', 'errUSBConnection', 'fillBit', 'printGenericError', 'readBit', 'warnAHRSOverflow', 'warnAIOverflow', 'warnCANOverflow', 'warnLibNotFound', 'warnUARTOverflow', 'writeBit']
 class Error(Exception):
     """
     The driver's errors: each class has its fixed code and default message.
@@ -1773,6 +1773,694 @@ class _LoopReactor:
         ...
     def _run_timers(self) -> None:
         ...
+class DataLogger:
+    """
+    Writes rows of values to a CSV file from a writer thread of its own (save_data_thread), in the default CSV dialect (CR LF line ends, quotes only where needed, UTF-8).
+    
+    DataLogger(): the writer starts, held until a file is open.
+    """
+    queue_timeout: typing.ClassVar[float] = 999999.0
+    def Logger_openFile(self, filename: typing.Any, clear_old: bool = True, verbose: bool = True) -> int:
+        """
+        Logger_openFile(self, filename: str, clear_old: bool = True, verbose: bool = True) -> int
+        
+        Opens the file (clear_old: truncated, else appended to) and lets the writer run; verbose prints "Opened file name: (<filename>)". Returns 0.
+        
+        Raises:
+            OSError: the file cannot be opened.
+        """
+    def Logger_write2DList(self, value_mat: typing.Any) -> int:
+        """
+        Logger_write2DList(self, value_mat: collections.abc.Iterable[collections.abc.Iterable[typing.Any]]) -> int
+        
+        Queues rows, written together; an empty list writes nothing. Returns 0.
+        """
+    def Logger_writeHeader(self, header: typing.Any) -> int:
+        """
+        Logger_writeHeader(self, header: collections.abc.Sequence[str]) -> int
+        
+        Queues one row of column names. Returns 0.
+        """
+    def Logger_writeList(self, value_list: typing.Any) -> int:
+        """
+        Logger_writeList(self, value_list: collections.abc.Iterable[typing.Any]) -> int
+        
+        Queues one row; each value is written as the CSV writer formats it. Returns 0.
+        """
+    def Logger_writeValue(self, value: typing.Any) -> int:
+        """
+        Logger_writeValue(self, value: typing.Any) -> int
+        
+        Queues a row of one value. Returns 0.
+        """
+    def _Logger_close(self, verbose: bool = True) -> int:
+        """
+        _Logger_close(self, verbose: bool = True) -> int
+        
+        Closes the file and ends the writer; rows still queued are lost. Returns 0.
+        """
+    def _Logger_flush(self, timeout: typing.SupportsFloat | typing.SupportsIndex = 5.0) -> bool:
+        """
+        _Logger_flush(self, timeout: float = 5.0) -> bool
+        
+        Waits until the writer has written every row queued so far, at most timeout seconds; True when nothing is left queued.
+        """
+    def __init__(self) -> None:
+        ...
+    @property
+    def _save_data_queue_size(self) -> int:
+        """
+        Entries waiting in the queue.
+        """
+    @property
+    def _save_data_thread_id(self) -> int:
+        """
+        The native id of the writer thread; 0 once it has ended.
+        """
+    @property
+    def filename(self) -> str:
+        """
+        The file name last opened.
+        """
+    @property
+    def killed(self) -> bool:
+        """
+        True once the logger (or the device it belongs to) is closed.
+        """
+class ThermalModule:
+    """
+    Temperature inputs: what thermocouples and resistance sensors share.
+    """
+    def Thermal_close(self, port: int, timeout: float = 3) -> int:
+        """
+        Closes a thermal port; on KestrelTherm nothing is checked or sent and 0 returned.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Thermal_close_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Thermal_close, without timeout: Closes a thermal port; on KestrelTherm nothing is checked or sent and 0 returned.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+        """
+    def Thermal_getPinMap(self) -> dict:
+        """
+        Thermal_getPinMap(self) -> dict[int, list[tuple[int, int]]]
+        
+        thermal_dict: each thermal port and the (pin-map port, pin) pairs it occupies.
+        """
+    def Thermal_getStatus(self, port: int, channel: int, timeout: float = 3) -> int:
+        """
+        Reads a sensor's status bits (on Plover-Tc bit 0 only: open-circuit fault).
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the status bits
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Thermal_getStatus_async(self, port: int, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Thermal_getStatus, without timeout: Reads a sensor's status bits (on Plover-Tc bit 0 only: open-circuit fault).
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+        
+        Returns:
+            int: the status bits
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+        """
+    def Thermal_open(self, port: int, timeout: float = 3) -> int:
+        """
+        Opens a thermal port (its pins must be Idle, DI or DO, except on KestrelTherm).
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict, or a pin of it serves another function.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Thermal_open_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Thermal_open, without timeout: Opens a thermal port (its pins must be Idle, DI or DO, except on KestrelTherm).
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict, or a pin of it serves another function.
+        """
+    def Thermal_readSensor(self, port: int, channel: int, timeout: float = 3) -> float:
+        """
+        Reads a temperature.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            float: degrees Celsius, rounded to 3 decimal places
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Thermal_readSensor_async(self, port: int, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, float]:
+        """
+        Awaitable Thermal_readSensor, without timeout: Reads a temperature.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+        
+        Returns:
+            float: degrees Celsius, rounded to 3 decimal places
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+        """
+    def _Thermal_loadOffset(self, port: int, channel: int, timeout: float = 3) -> float:
+        """
+        Loads a channel's saved offset.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            float: degrees Celsius
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Thermal_loadOffset_async(self, port: int, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, float]:
+        """
+        Awaitable _Thermal_loadOffset, without timeout: Loads a channel's saved offset.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+        
+        Returns:
+            float: degrees Celsius
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+        """
+    def _Thermal_readOffset(self, port: int, channel: int, timeout: float = 3) -> float:
+        """
+        Reads a channel's offset.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            float: degrees Celsius
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Thermal_readOffset_async(self, port: int, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, float]:
+        """
+        Awaitable _Thermal_readOffset, without timeout: Reads a channel's offset.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+        
+        Returns:
+            float: degrees Celsius
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+        """
+    def _Thermal_saveOffset(self, port: int, channel: int, temperature: float, timeout: float = 3) -> int:
+        """
+        Saves a channel's offset in the device.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            temperature (float): degrees Celsius, sent as a 32-bit float
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int, or temperature not a number.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Thermal_saveOffset_async(self, port: int, channel: int, temperature: float) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Thermal_saveOffset, without timeout: Saves a channel's offset in the device.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            temperature (float): degrees Celsius, sent as a 32-bit float
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int, or temperature not a number.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+        """
+    def _Thermal_setNoiseFilter(self, port: int, channel: int, mode: int, timeout: float = 3) -> int:
+        """
+        Sets the mains filter of a channel.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            mode (int): 0: 60 Hz (device default), 1: 50 Hz
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port, channel or mode is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            ThermalModeNotVaildError: mode is not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Thermal_setNoiseFilter_async(self, port: int, channel: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Thermal_setNoiseFilter, without timeout: Sets the mains filter of a channel.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            mode (int): 0: 60 Hz (device default), 1: 50 Hz
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port, channel or mode is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            ThermalModeNotVaildError: mode is not 0 or 1.
+        """
+    def _Thermal_writeOffset(self, port: int, channel: int, temperature: float, timeout: float = 3) -> int:
+        """
+        Sets a channel's offset.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            temperature (float): degrees Celsius, sent as a 32-bit float
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int, or temperature not a number.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Thermal_writeOffset_async(self, port: int, channel: int, temperature: float) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Thermal_writeOffset, without timeout: Sets a channel's offset.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            temperature (float): degrees Celsius, sent as a 32-bit float
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int, or temperature not a number.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+        """
+    def _checkThermalChipSelect(self, cs: typing.Any) -> bool:
+        ...
+    def _checkThermalPort(self, port: typing.Any) -> bool:
+        ...
+class AHRSModule:
+    """
+    The attitude sensor of HeronAinImu: orientation and acceleration estimated on the device.
+    """
+    def AHRS_close(self, port: int, timeout: float = 3) -> int:
+        """
+        Closes the inertial unit.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AHRS_close_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AHRS_close, without timeout: Closes the inertial unit.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+        """
+    def AHRS_getEstimate(self, port: int, mode: int, timeout: float = 3) -> list[float]:
+        """
+        Reads the current estimate.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            mode (int): 0: orientation, 1: acceleration, 2: both
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[float]: mode 0: roll, pitch, yaw in degrees; 1: three accelerations as the device gives them; 2: the three angles, then the three accelerations; 4 decimal places
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict, or mode is not 0..2.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AHRS_getEstimate_async(self, port: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[float]]:
+        """
+        Awaitable AHRS_getEstimate, without timeout: Reads the current estimate.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            mode (int): 0: orientation, 1: acceleration, 2: both
+        
+        Returns:
+            list[float]: mode 0: roll, pitch, yaw in degrees; 1: three accelerations as the device gives them; 2: the three angles, then the three accelerations; 4 decimal places
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict, or mode is not 0..2.
+        """
+    def AHRS_open(self, port: int, timeout: float = 3) -> int:
+        """
+        Opens the inertial unit.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AHRS_open_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AHRS_open, without timeout: Opens the inertial unit.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+        """
+    def AHRS_reset(self, port: int, timeout: float = 3) -> int:
+        """
+        Resets the estimator.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AHRS_reset_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AHRS_reset, without timeout: Resets the estimator.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+        """
+    def AHRS_setSamplingPeriod(self, port: int, sampling_period: float, timeout: float = 3) -> int:
+        """
+        Sets the estimator's period; gravity 9.81 and z offset 0.001 go with it.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            sampling_period (float): seconds, sent as a 32-bit float
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or a value not a number.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AHRS_setSamplingPeriod_async(self, port: int, sampling_period: float) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AHRS_setSamplingPeriod, without timeout: Sets the estimator's period; gravity 9.81 and z offset 0.001 go with it.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            sampling_period (float): seconds, sent as a 32-bit float
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or a value not a number.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+        """
+    def AHRS_start(self, port: int, timeout: float = 3) -> int:
+        """
+        Starts the estimator (both estimates); sent without waiting for a reply.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AHRS_start_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AHRS_start, without timeout: Starts the estimator (both estimates); sent without waiting for a reply.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+        """
+    def AHRS_stop(self, port: int, timeout: float = 3) -> int:
+        """
+        Stops the estimator.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AHRS_stop_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AHRS_stop, without timeout: Stops the estimator.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+        """
+    def _AHRS_VQF_setTau(self, port: int, accelerator_decay_time: float, magnetometer_decay_time: float, timeout: float = 3) -> int:
+        """
+        Sets the filter's decay times.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            accelerator_decay_time (float): seconds
+            magnetometer_decay_time (float): seconds
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or a value not a number.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        
+        _AHRS_VQF_setTau(self, port: int, accelerator_decay_time: float, magnetometer_decay_time: float) -> collections.abc.Coroutine[typing.Any, typing.Any, int]
+        
+        Awaitable _AHRS_VQF_setTau, without timeout: Sets the filter's decay times.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            accelerator_decay_time (float): seconds
+            magnetometer_decay_time (float): seconds
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or a value not a number.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+        """
+    def _AHRS_setGeneral(self, port: int, gravity: float, dt: float, z_offset: float, timeout: float = 3) -> int:
+        """
+        Sets gravity, the period and the z offset of the estimator.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            gravity (float): m/s^2
+            dt (float): seconds
+            z_offset (float): z offset
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or a value not a number.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _AHRS_setGeneral_async(self, port: int, gravity: float, dt: float, z_offset: float) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _AHRS_setGeneral, without timeout: Sets gravity, the period and the z offset of the estimator.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            gravity (float): m/s^2
+            dt (float): seconds
+            z_offset (float): z offset
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or a value not a number.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+        """
+    def _checkAHRSMode(self, mode: typing.Any) -> bool:
+        ...
+    def _checkAHRSPort(self, port: typing.Any) -> bool:
+        ...
+    def _convertModeToMask(self, mode: typing.Any) -> int:
+        ...
 class CounterModule:
     """
     The device's two pulse counters; the host reads 16 bits.
@@ -3025,6 +3713,171 @@ class DPOTModule:
         ...
     def _checkDPOTPort(self, port: typing.Any) -> bool:
         ...
+class Measurement:
+    """
+    One frame of a digital multimeter decoded: mode, range, display text, the displayed number as a decimal.Decimal, unit and status flags.
+    
+    Measurement(b): b is the frame, 14 bytes.
+    """
+    _EXPONENTS: typing.ClassVar[dict] = {'M': 6, 'k': 3, 'm': -3, 'n': -9, 'u': -6}
+    _MODE: typing.ClassVar[list] = ['ACV', 'ACmV', 'DCV', 'DCmV', 'Hz', '%', 'OHM', 'CONT', 'DIDOE', 'CAP', '°C', '°F', 'DCuA', 'ACuA', 'DCmA', 'ACmA', 'DCA', 'ACA', 'HFE', 'Live', 'NCV', 'LozV', 'ACA', 'DCA', 'LPF', 'AC/DC', 'LPF', 'AC+DC', 'LPF', 'AC+DC2', 'INRUSH']
+    _NCV: typing.ClassVar[list] = ['EF', '-', '--', '---', '----', '-----']
+    _OVERLOAD: typing.ClassVar[list] = ['O.L', 'OL.', 'OL', '-.OL', '-O.L', '-OL.', '-OL']
+    _UNITS: typing.ClassVar[dict] = {'%': {'0': '%'}, 'AC+DC': {'1': 'A'}, 'AC+DC2': {'1': 'A'}, 'AC/DC': {'0': 'V', '1': 'V', '2': 'V', '3': 'V'}, 'ACA': {'1': 'A'}, 'ACV': {'0': 'V', '1': 'V', '2': 'V', '3': 'V'}, 'ACmA': {'0': 'mA', '1': 'mA'}, 'ACmV': {'0': 'mV'}, 'ACuA': {'0': 'uA', '1': 'uA'}, 'CAP': {'0': 'nF', '1': 'nF', '2': 'uF', '3': 'uF', '4': 'uF', '5': 'mF', '6': 'mF', '7': 'mF'}, 'CONT': {'0': 'Ω'}, 'DCA': {'1': 'A'}, 'DCV': {'0': 'V', '1': 'V', '2': 'V', '3': 'V'}, 'DCmA': {'0': 'mA', '1': 'mA'}, 'DCmV': {'0': 'mV'}, 'DCuA': {'0': 'uA', '1': 'uA'}, 'DIDOE': {'0': 'V'}, 'HFE': {'0': 'B'}, 'Hz': {'0': 'Hz', '1': 'Hz', '2': 'kHz', '3': 'kHz', '4': 'kHz', '5': 'MHz', '6': 'MHz', '7': 'MHz'}, 'LPF': {'0': 'V', '1': 'V', '2': 'V', '3': 'V'}, 'LozV': {'0': 'V', '1': 'V', '2': 'V', '3': 'V'}, 'NCV': {'0': 'NCV'}, 'OHM': {'0': 'Ω', '1': 'kΩ', '2': 'kΩ', '3': 'kΩ', '4': 'MΩ', '5': 'MΩ', '6': 'MΩ'}, '°C': {'0': '°C', '1': '°C'}, '°F': {'0': '°F', '1': '°F'}}
+    def __init__(self, b: typing.Any) -> None:
+        ...
+    def __str__(self) -> str:
+        ...
+    @property
+    def _data(self) -> dict:
+        ...
+    @property
+    def binary(self) -> ...:
+        """
+        (self) -> typing.Any
+        
+        The frame as given.
+        """
+    @property
+    def display(self) -> ...:
+        """
+        (self) -> str
+        
+        The display text without blanks.
+        """
+    @property
+    def display_decimal(self) -> ...:
+        """
+        (self) -> decimal.Decimal | decimal.Overflow | int
+        
+        The displayed number; decimal.Overflow() on overload; the level 0..5 (-1 unknown) in NCV mode.
+        """
+    @property
+    def display_unit(self) -> ...:
+        """
+        (self) -> str | None
+        
+        The unit shown, with its prefix.
+        """
+    @property
+    def hasBatteryWarning(self) -> ...:
+        """
+        (self) -> bool
+        
+        Low battery.
+        """
+    @property
+    def hasHVWarning(self) -> ...:
+        """
+        (self) -> bool
+        
+        High-voltage warning.
+        """
+    @property
+    def isAuto(self) -> ...:
+        """
+        (self) -> bool
+        
+        Auto range.
+        """
+    @property
+    def isBarPol(self) -> ...:
+        """
+        (self) -> bool
+        
+        Bar polarity.
+        """
+    @property
+    def isDC(self) -> ...:
+        """
+        (self) -> bool
+        
+        DC.
+        """
+    @property
+    def isHold(self) -> ...:
+        """
+        (self) -> bool
+        
+        Display hold.
+        """
+    @property
+    def isMax(self) -> ...:
+        """
+        (self) -> bool
+        
+        Max hold.
+        """
+    @property
+    def isMaxPeak(self) -> ...:
+        """
+        (self) -> bool
+        
+        Max peak.
+        """
+    @property
+    def isMin(self) -> ...:
+        """
+        (self) -> bool
+        
+        Min hold.
+        """
+    @property
+    def isMinPeak(self) -> ...:
+        """
+        (self) -> bool
+        
+        Min peak.
+        """
+    @property
+    def isRel(self) -> ...:
+        """
+        (self) -> bool
+        
+        Relative mode.
+        """
+    @property
+    def mode(self) -> ...:
+        """
+        (self) -> str
+        
+        The mode's name ("DCV", "OHM", ...).
+        """
+    @property
+    def overload(self) -> ...:
+        """
+        (self) -> bool
+        
+        True when the display shows an overload.
+        """
+    @property
+    def progress(self) -> ...:
+        """
+        (self) -> int
+        
+        The progress bar, 0..99.
+        """
+    @property
+    def range(self) -> ...:
+        """
+        (self) -> str
+        
+        The range digit, one character.
+        """
+    @property
+    def unit(self) -> ...:
+        """
+        (self) -> str | None
+        
+        The unit shown, with its prefix (display_unit).
+        """
+    @property
+    def value(self) -> ...:
+        """
+        (self) -> decimal.Decimal | decimal.Overflow | int
+        
+        The number with the prefix's digits rotated in (decimal rotate by its power of ten).
+        """
 class NetworkModule:
     """
     A network device's own addressing: IP address, mask, gateway, MAC.
@@ -4301,6 +5154,234 @@ class SystemModule:
     @property
     def thread_info(self) -> str:
         ...
+class ThermalResistanceModule(ThermalModule):
+    """
+    Resistance temperature sensors, PT-100 and PT-1000 (PloverRtd).
+    """
+    def Thermal_setType(self, port: int, channel: int, type_: int, timeout: float = 3) -> int:
+        """
+        Sets the sensor wiring.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            type_ (int): 0: two- or four-wire, 1: three-wire
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            ThermalTypeNotVaildError: type_ is not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Thermal_setType_async(self, port: int, channel: int, type_: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Thermal_setType, without timeout: Sets the sensor wiring.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            type_ (int): 0: two- or four-wire, 1: three-wire
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            ThermalTypeNotVaildError: type_ is not 0 or 1.
+        """
+class ThermocoupleModule(ThermalModule):
+    """
+    Thermocouple inputs (KestrelTherm, PloverTc).
+    """
+    def Thermal_setOverSampling(self, port: int, channel: int, mode: int, timeout: float = 3) -> int:
+        """
+        Sets how many samples a reading averages.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            mode (int): 0: 1 (device default), 1: 2, 2: 4, 3: 8, 4: 16
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            ThermalModeNotVaildError: mode is not one of 0..4.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Thermal_setOverSampling_async(self, port: int, channel: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Thermal_setOverSampling, without timeout: Sets how many samples a reading averages.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            mode (int): 0: 1 (device default), 1: 2, 2: 4, 3: 8, 4: 16
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            ThermalModeNotVaildError: mode is not one of 0..4.
+        """
+    def Thermal_setType(self, port: int, channel: int, type_: int, timeout: float = 3) -> int:
+        """
+        Sets the thermocouple type.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            type_ (int): 0 B, 1 E, 2 J, 3 K (device default), 4 N, 5 R, 6 S, 7 T
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            ThermalTypeNotVaildError: type_ is not one of 0..7.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Thermal_setType_async(self, port: int, channel: int, type_: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Thermal_setType, without timeout: Sets the thermocouple type.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            type_ (int): 0 B, 1 E, 2 J, 3 K (device default), 4 N, 5 R, 6 S, 7 T
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            ThermalTypeNotVaildError: type_ is not one of 0..7.
+        """
+    def _Thermal_readJunction(self, port: int, channel: int, timeout: float = 3) -> float:
+        """
+        Reads the cold-junction temperature.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            float: degrees Celsius
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Thermal_readJunction_async(self, port: int, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, float]:
+        """
+        Awaitable _Thermal_readJunction, without timeout: Reads the cold-junction temperature.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+        
+        Returns:
+            float: degrees Celsius
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+        """
+    def _Thermal_setJunctionOn(self, port: int, channel: int, status: bool, timeout: float = 3) -> int:
+        """
+        Turns the cold-junction compensation on or off.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            status (bool): True sends 1, False 0
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Thermal_setJunctionOn_async(self, port: int, channel: int, status: bool) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Thermal_setJunctionOn, without timeout: Turns the cold-junction compensation on or off.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            status (bool): True sends 1, False 0
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+        """
+    def _Thermal_writeJunction(self, port: int, channel: int, temperature: float, timeout: float = 3) -> int:
+        """
+        Sets the cold-junction temperature.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            temperature (float): degrees Celsius, sent as a 32-bit float
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int, or temperature not a number.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Thermal_writeJunction_async(self, port: int, channel: int, temperature: float) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Thermal_writeJunction, without timeout: Sets the cold-junction temperature.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            temperature (float): degrees Celsius, sent as a 32-bit float
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int, or temperature not a number.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+        """
 class WifiModule:
     """
     The Wi-Fi models' LEDs, power state and radio settings.
@@ -4672,7 +5753,7 @@ class DeviceFinder(BroadcastDevice, BroadcastModule):
     """
     def __init__(self, verbose: bool = True, broadcast_addr: str | None = None) -> None:
         ...
-class HeronAinImu(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, WifiModule):
+class HeronAinImu(WifiDevice, DataLogger, SystemModule, SystemAnalogModule, NetworkModule, WifiModule, AHRSModule):
     """
     HeronAinImu (Heron-Ain-Imu): device class WifiDevice; modules System, SystemAnalog, Network, Wifi, AI, AHRS.
     
@@ -4680,7 +5761,7 @@ class HeronAinImu(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, W
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class HeronAin(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, WifiModule):
+class HeronAin(WifiDevice, DataLogger, SystemModule, SystemAnalogModule, NetworkModule, WifiModule):
     """
     HeronAin (Heron-Ain): device class WifiDevice; modules System, SystemAnalog, Network, Wifi, AI.
     
@@ -4688,7 +5769,7 @@ class HeronAin(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, Wifi
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class HeronAinPlus(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, WifiModule):
+class HeronAinPlus(WifiDevice, DataLogger, SystemModule, SystemAnalogModule, NetworkModule, WifiModule):
     """
     HeronAinPlus (Heron-Ain-Plus): device class WifiDevice; modules System, SystemAnalog, Network, Wifi, AI.
     
@@ -4696,7 +5777,7 @@ class HeronAinPlus(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, 
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class Trellis(ETHDevice, SystemModule, NetworkModule, DIOModule):
+class Trellis(DataLogger, ETHDevice, SystemModule, NetworkModule, DIOModule):
     """
     Trellis (Trellis): device class ETHDevice; modules System, Network, AI, AO, DIO, MCX514.
     
@@ -4712,7 +5793,7 @@ class MerlinDrive(ETHDevice, SystemModule, NetworkModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class MerlinAxis(ETHDevice, SystemModule, NetworkModule):
+class MerlinAxis(ETHDevice, DataLogger, SystemModule, NetworkModule):
     """
     MerlinAxis (Merlin-Axis): device class ETHDevice; modules MCX514, System, Network.
     
@@ -4720,7 +5801,7 @@ class MerlinAxis(ETHDevice, SystemModule, NetworkModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelAin(ETHDevice, SystemModule, NetworkModule):
+class KestrelAin(ETHDevice, DataLogger, SystemModule, NetworkModule):
     """
     KestrelAin (Kestrel-Ain): device class ETHDevice; modules System, Network, AI.
     
@@ -4728,7 +5809,7 @@ class KestrelAin(ETHDevice, SystemModule, NetworkModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelDio(ETHDevice, SystemModule, NetworkModule, DIOModule, PWMModule):
+class KestrelDio(ETHDevice, DataLogger, SystemModule, NetworkModule, DIOModule, PWMModule):
     """
     KestrelDio (Kestrel-Dio): device class ETHDevice; modules System, Network, DIO, PWM.
     
@@ -4736,7 +5817,7 @@ class KestrelDio(ETHDevice, SystemModule, NetworkModule, DIOModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelDioX(ETHDevice, SystemModule, NetworkModule, DIOModule):
+class KestrelDioX(ETHDevice, DataLogger, SystemModule, NetworkModule, DIOModule):
     """
     KestrelDioX (Kestrel-Dio_X): device class ETHDevice; modules System, Network, DIO.
     
@@ -4744,7 +5825,7 @@ class KestrelDioX(ETHDevice, SystemModule, NetworkModule, DIOModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelCin(ETHDevice, SystemModule, NetworkModule):
+class KestrelCin(ETHDevice, DataLogger, SystemModule, NetworkModule):
     """
     KestrelCin (Kestrel-Cin): device class ETHDevice; modules System, Network, AI24Bit.
     
@@ -4752,7 +5833,7 @@ class KestrelCin(ETHDevice, SystemModule, NetworkModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelCvin(ETHDevice, SystemModule, NetworkModule):
+class KestrelCvin(ETHDevice, DataLogger, SystemModule, NetworkModule):
     """
     KestrelCvin (Kestrel-Cvin): device class ETHDevice; modules System, Network, AI24Bit.
     
@@ -4760,7 +5841,7 @@ class KestrelCvin(ETHDevice, SystemModule, NetworkModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelRelay(ETHDevice, SystemModule, NetworkModule, DIOModule, RelayModule):
+class KestrelRelay(ETHDevice, DataLogger, SystemModule, NetworkModule, DIOModule, RelayModule):
     """
     KestrelRelay (Kestrel-Relay): device class ETHDevice; modules System, Network, DIO, Relay.
     
@@ -4768,7 +5849,7 @@ class KestrelRelay(ETHDevice, SystemModule, NetworkModule, DIOModule, RelayModul
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelAout(ETHDevice, SystemModule, NetworkModule):
+class KestrelAout(ETHDevice, DataLogger, SystemModule, NetworkModule):
     """
     KestrelAout (Kestrel-Aout): device class ETHDevice; modules System, Network, AO.
     
@@ -4776,7 +5857,7 @@ class KestrelAout(ETHDevice, SystemModule, NetworkModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelRes(ETHDevice, SystemModule, NetworkModule, DPOTModule):
+class KestrelRes(ETHDevice, DataLogger, SystemModule, NetworkModule, DPOTModule):
     """
     KestrelRes (Kestrel-Res): device class ETHDevice; modules System, Network, DPOT.
     
@@ -4784,7 +5865,7 @@ class KestrelRes(ETHDevice, SystemModule, NetworkModule, DPOTModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelTherm(ETHDevice, SystemModule, NetworkModule):
+class KestrelTherm(ETHDevice, DataLogger, SystemModule, NetworkModule, ThermocoupleModule):
     """
     KestrelTherm (Kestrel-Therm): device class ETHDevice; modules System, Network, Thermocouple.
     
@@ -4792,7 +5873,7 @@ class KestrelTherm(ETHDevice, SystemModule, NetworkModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverDio(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverDio(USBDevice, DataLogger, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     PloverDio (Plover-Dio): device class USBDevice; modules System, UART, I2C, SPI, DIO, Counter, PWM.
     
@@ -4800,7 +5881,7 @@ class PloverDio(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverAin(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverAin(USBDevice, DataLogger, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     PloverAin (Plover-Ain): device class USBDevice; modules System, UART, I2C, SPI, AI, DIO, Counter, PWM.
     
@@ -4808,7 +5889,7 @@ class PloverAin(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverTc(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverTc(USBDevice, DataLogger, SystemModule, ThermocoupleModule, DIOModule, CounterModule, PWMModule):
     """
     PloverTc (Plover-Tc): device class USBDevice; modules System, UART, I2C, SPI, Thermocouple, DIO, Counter, PWM.
     
@@ -4816,7 +5897,7 @@ class PloverTc(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverCan(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverCan(USBDevice, DataLogger, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     PloverCan (Plover-Can): device class USBDevice; modules System, UART, I2C, SPI, CAN, DIO, Counter, PWM.
     
@@ -4824,7 +5905,7 @@ class PloverCan(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverSink(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverSink(USBDevice, DataLogger, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     PloverSink (Plover-Sink): device class USBDevice; modules System, DIO, Counter, PWM.
     
@@ -4832,7 +5913,7 @@ class PloverSink(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverAio(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverAio(USBDevice, DataLogger, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     PloverAio (Plover-Aio): device class USBDevice; modules System, UART, I2C, AI, AO, DIO, Counter, PWM.
     
@@ -4840,7 +5921,7 @@ class PloverAio(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverRtd(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverRtd(USBDevice, DataLogger, SystemModule, ThermalResistanceModule, DIOModule, CounterModule, PWMModule):
     """
     PloverRtd (Plover-Rtd): device class USBDevice; modules System, UART, I2C, SPI, ThermalResistance, DIO, Counter, PWM.
     
