@@ -95,3 +95,10 @@ def test_awaitable_twins_and_the_shared_tau_name(imu):
     assert asyncio.run(main()) == ([1.0, 2.0, 3.0], 0)
     assert not hasattr(dev, "_AHRS_VQF_setTau_async")
     assert dev._AHRS_VQF_setTau(0, 1, 2) == 0  # the blocking one is found
+
+
+def test_a_silent_device_ends_the_estimate_by_its_timeout(imu):
+    dev, s = imu
+    s.set_handler(AHRS_GET_ESTIMATES, lambda ctx, req: None)
+    with pytest.raises(pyorv.ReceivePacketTimeoutError):
+        dev.AHRS_getEstimate(0, 2, timeout=0.3)

@@ -142,3 +142,35 @@ def test_logger_stands_among_the_bases(name):
     want = (pyorv.DataLogger, device) if name == "Trellis" else (device, pyorv.DataLogger)
     assert bases[:2] == want
     assert pyorv.DataLogger not in pyorv.MerlinDrive.__mro__
+
+
+def test_rows_from_many_threads_each_land_whole(logger, tmp_path):
+    import threading
+    path = tmp_path / "t.csv"
+    logger.Logger_openFile(str(path), verbose=False)
+
+    def writer(k):
+        for i in range(50):
+            logger.Logger_write2DList([[k, i, "a"], [k, i, "b"]])
+
+    threads = [threading.Thread(target=writer, args=(k,)) for k in range(4)]
+    for t in threads:
+        t.start()
+    for t in threads:
+        t.join()
+    assert logger._Logger_flush()
+    lines = path.read_bytes().split(b"\r\n")[:-1]
+    assert len(lines) == 400
+    assert sorted(lines[0::2]) == sorted(f"{k},{i},a".encode() for k in range(4) for i in range(50))
+    assert all(b.endswith(b",b") and b[:-1] == a[:-1] for a, b in zip(lines[0::2], lines[1::2]))
+
+
+@pytest.mark.parametrize("name", ["KestrelTherm", "Trellis"])
+def test_killed_after_either_close(pair, name):
+    dev, _ = pair(name)
+    assert dev.killed is False
+    dev._Logger_close()
+    assert dev._save_data_thread_id == 0
+    assert dev.Sys_getDriverInfo()  # the logger alone is closed: the device still answers
+    dev.close(verbose=False)
+    assert dev.killed is True

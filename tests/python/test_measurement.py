@@ -95,3 +95,10 @@ def test_class_tables():
 def test_bad_frames(b, error):
     with pytest.raises(error):
         Measurement(b)
+
+
+@pytest.mark.parametrize("display", ["-OL", "O.L", "-.OL"])
+def test_overload_texts_and_a_signed_rotation(display):
+    assert Measurement(frame("DCmV", "0", display)).overload is True
+    m = Measurement(frame("DCmV", "0", "-12.5"))
+    assert m.value.as_tuple() == Decimal("-12.5").rotate(-3).as_tuple() and m.value < 0

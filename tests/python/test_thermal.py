@@ -186,3 +186,17 @@ def test_awaitable_twins(tc):
 
     assert asyncio.run(main()) == (25.0, 0)
     assert wire(s)[-1] == (SET_THERMAL_TYPE, bytes([2, 0, 1]))
+
+
+@pytest.mark.parametrize("model, want", [("PloverTc", 1), ("KestrelTherm", 0x83)])
+def test_status_masked_on_plover_tc_only(pair, model, want):
+    dev, s = pair(model)
+    s.set_handler(GET_THERMAL_STATUS, lambda ctx, req: ctx.reply(bytes([req.data[0], 0, 0x83])))
+    assert dev.Thermal_getStatus(1, 0) == want
+
+
+def test_a_silent_device_ends_the_read_by_its_timeout(tc):
+    dev, s = tc
+    s.set_handler(READ_THERMAL_COUPLE, lambda ctx, req: None)
+    with pytest.raises(pyorv.ReceivePacketTimeoutError):
+        dev.Thermal_readSensor(1, 0, timeout=0.3)
