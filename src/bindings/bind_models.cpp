@@ -122,17 +122,30 @@ std::string modelDoc(const ModelInfo& row) {
 }
 
 // A model class: its device class and its module classes as bases.
+// A model whose DataLogger stands before the device class lists it first.
 template <class Model, class... Modules>
 void bindModel(py::module_& m, const char* name, TypeList<Modules...>) {
-  bindDeviceClass<Model, typename Model::DeviceType, Modules...>(m, name,
-                                                                 modelDoc(modelInfo(name)).c_str());
+  const std::string doc = modelDoc(modelInfo(name));
+  bindDeviceClass<Model, typename Model::DeviceType, Modules...>(m, name, doc.c_str());
+}
+template <class Model, class... Modules>
+void bindModel(py::module_& m, const char* name, TypeList<DataLogger, Modules...>) {
+  const std::string doc = modelDoc(modelInfo(name));
+  if constexpr (kLoggerFirst<Model>)
+    bindDeviceClass<Model, DataLogger, typename Model::DeviceType, Modules...>(m, name,
+                                                                               doc.c_str());
+  else
+    bindDeviceClass<Model, typename Model::DeviceType, DataLogger, Modules...>(m, name,
+                                                                               doc.c_str());
 }
 
 // The Python classes a row asks for as bases: its device class, then the
 // class of each of its modules that is bound, in the row's order.
 py::tuple expectedBases(py::module_& m, const ModelInfo& row) {
   py::list bases;
+  if (row.data_logger && row.data_logger_first) bases.append(m.attr("DataLogger"));
   bases.append(m.attr(deviceClassName(row.device)));
+  if (row.data_logger && !row.data_logger_first) bases.append(m.attr("DataLogger"));
   for (const std::string& module : row.modules)
     for (const Binding& b : registeredBindings())
       if (b.module && module == b.module) bases.append(m.attr(b.name));

@@ -47,6 +47,8 @@ struct ModelInfo {
   std::string label;
   DeviceKind device = DeviceKind::None;
   bool data_logger = false;
+  // DataLogger stands before the device class among the host class's bases.
+  bool data_logger_first = false;
   // Names of the modules the model has, in their order ("System", "DIO", ...),
   // and its device class: from models/models.def.
   std::vector<std::string> modules;
@@ -63,6 +65,11 @@ struct ModelInfo {
   // The hardware fixes the direction of every digital pin: direction changes
   // of DIOModule do nothing and return 0.
   bool dio_fixed_direction = false;
+  // Channels of each thermal port (thermocouple chips on KestrelTherm).
+  int thermal_channels = 2;
+  // KestrelTherm: the thermal port has pins of its own; opening it checks no
+  // pin modes and closing it sends nothing.
+  bool thermal_board = false;
   // The year the real-time clock counts from.
   int rtc_base_year = 1900;
 

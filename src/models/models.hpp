@@ -88,4 +88,16 @@ class ModelOf<DeviceClass, TypeList<Modules...>> : public DeviceClass, public Mo
 #undef ORV_MODULES_OF
 #undef ORV_MODULE_OF
 
+// True for a model whose DataLogger base stands before its device class on
+// the host (ORV_LOGGER_FIRST in models/models.def).
+template <class Model>
+inline constexpr bool kLoggerFirst = false;
+#define ORV_MODEL(...)
+#define ORV_LOGGER_FIRST(Name) \
+  template <>                  \
+  inline constexpr bool kLoggerFirst<Name> = true;
+#include "models/models.def"
+#undef ORV_LOGGER_FIRST
+#undef ORV_MODEL
+
 }  // namespace orv

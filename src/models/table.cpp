@@ -66,6 +66,14 @@ constexpr ModelDef kModelDefs[] = {
 #include "models/models.def"
 #undef ORV_MODEL
 };
+// Models whose DataLogger base stands before the device class.
+#define ORV_MODEL(...)
+#define ORV_LOGGER_FIRST(Name) #Name,
+constexpr const char* kLoggerFirst[] = {
+#include "models/models.def"
+};
+#undef ORV_LOGGER_FIRST
+#undef ORV_MODEL
 
 std::vector<std::string> splitNames(std::string_view list) {
   std::vector<std::string> out;
@@ -96,6 +104,14 @@ void applyModelDefs(std::vector<ModelInfo>& table) {
       throw std::logic_error(std::string("models.def: no row for ") + def.class_name);
     row->device = deviceKindOf(def.device_class);
     row->modules = splitNames(def.modules);
+    // DataLogger is a base of the model, not one of its I/O modules.
+    const auto logger = std::find(row->modules.begin(), row->modules.end(), "DataLogger");
+    if ((logger != row->modules.end()) != row->data_logger)
+      throw std::logic_error(std::string("models.def: DataLogger in the line of ") +
+                             def.class_name + " disagrees with its row");
+    if (logger != row->modules.end()) row->modules.erase(logger);
+    row->data_logger_first = std::find(std::begin(kLoggerFirst), std::end(kLoggerFirst),
+                                       std::string_view(def.class_name)) != std::end(kLoggerFirst);
   }
   for (const ModelInfo& row : table)
     if (row.device == DeviceKind::None && row.class_name != "TrellisLite")
@@ -183,7 +199,9 @@ std::vector<ModelInfo> makeTable() {
   t.push_back({.class_name = "KestrelTherm",
                .label = "Kestrel-Therm",
                .data_logger = true,
-               .thermal_dict = {{1, {{3, 11}}}}});
+               .thermal_dict = {{1, {{3, 11}}}},
+               .thermal_channels = 7,
+               .thermal_board = true});
 
   // ---- USB ----
   const DigitalMap ain_can_dio = {{0, pins(0, 7)}, {1, pins(0, 3)}, {2, {6, 7}}, {3, pins(0, 5)}};

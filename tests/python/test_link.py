@@ -96,13 +96,13 @@ def test_garbage_collected_open_device_warns_and_is_closed(simulator):
     before = thread_ids()
     dev = pyorv.KestrelDioX(verbose=False)
     dev.connect(sim_dev.host, sim_dev.cmd_port, verbose=False)
-    receiver = thread_ids() - before
-    assert len(receiver) == 1 and sim_dev.wait_for_host(sim.Channel.Cmd, 5.0)
+    receiver = thread_ids() - before  # the receive thread and the DataLogger's writer
+    assert len(receiver) == 2 and sim_dev.wait_for_host(sim.Channel.Cmd, 5.0)
     with pytest.warns(ResourceWarning,
                       match=rf"^unclosed device Kestrel-Dio_X at {re.escape(sim_dev.host)}:"):
         del dev
         gc.collect()
-    assert not receiver & thread_ids()  # the destructor joined the receive thread
+    assert not receiver & thread_ids()  # the destructor joined both
     assert wait_until(lambda: not sim_dev.host_connected())
 
 

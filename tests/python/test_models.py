@@ -81,9 +81,13 @@ def test_model_matches_its_golden_row(name):
         assert cls.__bases__ == (object,)
         assert not hasattr(cls(), "connect")
         return
-    # The device class, then every module class the extension has, in order.
+    # The device class and DataLogger (the logger first on Trellis), then every
+    # module class the extension has, in order.
+    head = [golden["device_class"]]
+    if golden["data_logger"]:
+        head = ["DataLogger"] + head if name == "Trellis" else head + ["DataLogger"]
     bases = [b.__name__ for b in cls.__bases__]
-    assert bases == [golden["device_class"]] + [
+    assert bases == head + [
         m + "Module" for m in golden["modules"] if hasattr(pyorv, m + "Module")]
     dev = cls(verbose=False)
     try:
