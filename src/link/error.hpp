@@ -82,6 +82,14 @@ class ValueError : public std::runtime_error {
 class IndexError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
+// A name or key that is not there: an attribute a body looks up on its
+// object, a label of a table.
+class AttributeError : public std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+class KeyError : public std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
 class OSError : public std::runtime_error {
  public:
   OSError(int err, const std::string& what);
