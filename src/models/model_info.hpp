@@ -63,6 +63,9 @@ struct ModelInfo {
   // The hardware fixes the direction of every digital pin: direction changes
   // of DIOModule do nothing and return 0.
   bool dio_fixed_direction = false;
+  // Ports of the public operations are slot numbers from 1: the operation
+  // first takes changeToTrellisPort of the port (Trellis).
+  bool slot_ports = false;
   // The year the real-time clock counts from.
   int rtc_base_year = 1900;
 
