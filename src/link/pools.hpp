@@ -114,18 +114,42 @@ class StreamQueue {
   std::optional<Bytes> tryPop();
   // Waits for an item until deadline; nullopt on timeout, cancel or close.
   std::optional<Bytes> popWait(Clock::time_point deadline, CancelToken* tok = nullptr);
-  // Waits until size() >= n; false on cancel/close.
-  bool waitSize(size_t n, CancelToken* tok = nullptr);
+  // How a wait for a number of items ended.
+  enum class Wait { Ready, TimedOut, Cancelled, Closed };
+  // Sleeps the calling thread until size() >= n (Ready), the deadline, a
+  // cancel or the queue's close.  Items already there win over the rest.
+  Wait waitSize(size_t n, Clock::time_point deadline, CancelToken* tok = nullptr);
+  // Until size() >= n, without a deadline; false on cancel/close.
+  bool waitSize(size_t n, CancelToken* tok = nullptr) {
+    return waitSize(n, Clock::time_point::max(), tok) == Wait::Ready;
+  }
+  // For a waiter that is not a thread (a fiber on the event loop): `fn` runs
+  // once, on the pushing or closing thread and without the queue's lock, as
+  // soon as size() >= n or the queue is closed.  Returns 0 without keeping
+  // `fn` when that holds already; otherwise an id for unwatch().
+  uint64_t watch(size_t n, std::function<void()> fn);
+  void unwatch(uint64_t id);
   size_t size() const;
+  bool closed() const;
   void clear();
   void close();  // wakes waiters for good
 
  private:
   mutable std::mutex m_;
   std::condition_variable cv_;
+  struct Watch {
+    uint64_t id;
+    size_t n;
+    std::function<void()> fn;
+  };
+  // The watches whose condition holds now, taken out; under m_.
+  std::vector<std::function<void()>> takeDueWatches();
+
   std::deque<Bytes> q_;
   size_t max_;
   bool closed_ = false;
+  std::vector<Watch> watches_;
+  uint64_t next_watch_ = 1;
 };
 
 class StreamPool {
