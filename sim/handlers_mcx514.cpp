@@ -81,15 +81,14 @@ uint32_t dataWord(const Bytes& d) {
 
 // Read code -> the write code whose word it reads.
 const std::map<int, int>& readBack() {
-  static const std::map<int, int> m{
-      {MOTION_34_MR0, MOTION_10_MR0}, {MOTION_35_MR1, MOTION_11_MR1},
-      {MOTION_36_MR2, MOTION_12_MR2}, {MOTION_37_MR3, MOTION_13_MR3},
-      {MOTION_38_CT, MOTION_16_TM},   {MOTION_3D_WR1, MOTION_E1_WR1},
-      {MOTION_3E_WR2, MOTION_E2_WR2}, {MOTION_3F_WR3, MOTION_E3_WR3},
-      {MOTION_40_MRM, MOTION_20_MRM}, {MOTION_41_P1M, MOTION_21_P1M},
-      {MOTION_42_P2M, MOTION_22_P2M}, {MOTION_43_AC, MOTION_02_AC},
-      {MOTION_44_SV, MOTION_04_SV},   {MOTION_45_DV, MOTION_05_DV},
-      {MOTION_46_TP, MOTION_06_TP}};
+  static const std::map<int, int> m{{MOTION_34_MR0, MOTION_10_MR0}, {MOTION_35_MR1, MOTION_11_MR1},
+                                    {MOTION_36_MR2, MOTION_12_MR2}, {MOTION_37_MR3, MOTION_13_MR3},
+                                    {MOTION_38_CT, MOTION_16_TM},   {MOTION_3D_WR1, MOTION_E1_WR1},
+                                    {MOTION_3E_WR2, MOTION_E2_WR2}, {MOTION_3F_WR3, MOTION_E3_WR3},
+                                    {MOTION_40_MRM, MOTION_20_MRM}, {MOTION_41_P1M, MOTION_21_P1M},
+                                    {MOTION_42_P2M, MOTION_22_P2M}, {MOTION_43_AC, MOTION_02_AC},
+                                    {MOTION_44_SV, MOTION_04_SV},   {MOTION_45_DV, MOTION_05_DV},
+                                    {MOTION_46_TP, MOTION_06_TP}};
   return m;
 }
 

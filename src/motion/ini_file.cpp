@@ -102,8 +102,9 @@ void IniConfig::read(const std::string& filename) {
       last_value = nullptr;
       continue;
     }
-    if (!cur) throw ValueError("File contains no section headers.\nfile: '" + filename +
-                               "', line: " + std::to_string(lineno) + "\n" + line);
+    if (!cur)
+      throw ValueError("File contains no section headers.\nfile: '" + filename +
+                       "', line: " + std::to_string(lineno) + "\n" + line);
     const size_t sep = t.find_first_of("=:");
     if (sep == std::string_view::npos || sep == 0) fail(line);
     const std::string key = foldKey(strip(t.substr(0, sep)));
@@ -190,7 +191,7 @@ std::string MotionInifile::textOf(const Value& v) {
 }
 
 Value MotionInifile::_Motion_INI_convertIntToString(std::string_view key,
-                                                   const Value& value) const {
+                                                    const Value& value) const {
   if (key == kPercent || key == kOffset) return value;
   auto row = out_.find(std::string(key));
   if (row == out_.end()) throw KeyError("'" + std::string(key) + "'");
@@ -203,7 +204,7 @@ Value MotionInifile::_Motion_INI_convertIntToString(std::string_view key,
 }
 
 Value MotionInifile::_Motion_INI_convertStringToInt(std::string_view key,
-                                                   std::string_view label) const {
+                                                    std::string_view label) const {
   const std::string text(strip(label));
   if (key == kPercent) {
     char* end = nullptr;

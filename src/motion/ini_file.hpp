@@ -51,9 +51,7 @@ class MotionInifile {
   MotionInifile();
   // label -> (value -> word), and the reverse.  The two numeric labels have
   // no words.
-  const std::map<std::string, std::map<int64_t, std::string>>& ini_out_dict() const {
-    return out_;
-  }
+  const std::map<std::string, std::map<int64_t, std::string>>& ini_out_dict() const { return out_; }
   const std::map<std::string, std::map<std::string, int64_t>>& ini_in_dict() const { return in_; }
 
   // The word of a setting; for "Approach Velocity Percent" and "Offset

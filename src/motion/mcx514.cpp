@@ -33,12 +33,12 @@ using mcx514::isZero;
 namespace {
 
 // Reads outside the command layer's rows: the two position counters.
-constexpr McxOp kGetLogicalPosi{"Motion_getLogicalPosi", MOTION_30_LP, McxForm::ACT,
-                                McxAxis::OneHot,         McxConv::None, McxReply::I32,
-                                {"axis"},                1};
-constexpr McxOp kGetEncoderPosi{"Motion_getEncoderPosi", MOTION_31_RP, McxForm::ACT,
-                                McxAxis::OneHot,         McxConv::None, McxReply::I32,
-                                {"axis"},                1};
+constexpr McxOp kGetLogicalPosi{
+    "Motion_getLogicalPosi", MOTION_30_LP,  McxForm::ACT, McxAxis::OneHot,
+    McxConv::None,           McxReply::I32, {"axis"},     1};
+constexpr McxOp kGetEncoderPosi{
+    "Motion_getEncoderPosi", MOTION_31_RP,  McxForm::ACT, McxAxis::OneHot,
+    McxConv::None,           McxReply::I32, {"axis"},     1};
 
 }  // namespace
 
@@ -110,12 +110,12 @@ namespace {
 int64_t bitOf(const Value& v) { return isOne(v) ? 1 : 0; }
 }  // namespace
 
-#define ORV_MCX514_WORD_HELPER(Name, arg, label, wr3, bit)                                   \
+#define ORV_MCX514_WORD_HELPER(Name, arg, label, wr3, bit)                                        \
   int MCX514Module::Name(const Call& c, const Value& port, const Value& axis, const Value& arg) { \
-    _checkMCX514MotionPort(port);                                                          \
-    _checkMCX514Axis(axis);                                                                \
-    axisOf(axis).motion_dict.set(label, arg);                                              \
-    return changeWord(c, port, axis, wr3, {{bit, bitOf(arg)}});                            \
+    _checkMCX514MotionPort(port);                                                                 \
+    _checkMCX514Axis(axis);                                                                       \
+    axisOf(axis).motion_dict.set(label, arg);                                                     \
+    return changeWord(c, port, axis, wr3, {{bit, bitOf(arg)}});                                   \
   }
 ORV_MCX514_WORD_HELPER(Motion_setAlarmLimitEnable_, alarm_enable, "Alarm Enable", false, 9)
 ORV_MCX514_WORD_HELPER(Motion_setAlarmPolarity_, alarm_polarity, "Alarm Polarity", false, 8)
@@ -148,8 +148,7 @@ int MCX514Module::Motion_setInstantLimitStop_(const Call& c, const Value& port, 
 }
 
 int MCX514Module::Motion_setLimitEnable_(const Call& c, const Value& port, const Value& axis,
-                                         const Value& forward_enable,
-                                         const Value& reverse_enable) {
+                                         const Value& forward_enable, const Value& reverse_enable) {
   _checkMCX514MotionPort(port);
   _checkMCX514Axis(axis);
   MotionAxis& rec = axisOf(axis);
@@ -187,8 +186,7 @@ int MCX514Module::Motion_setAxisModeAndDirection_(const Call& c, const Value& po
 // ---- moves ---------------------------------------------------------------------------
 
 int MCX514Module::Motion_writeAcceleration_(const Call& c, const Value& port, const Value& axis,
-                                            const Value& acceleration,
-                                            const Value& deceleration) {
+                                            const Value& acceleration, const Value& deceleration) {
   MotionAxis& rec = axisOf(axis);
   rec.acceleration = acceleration.asInt();
   rec.deceleration = deceleration.asInt();
@@ -277,18 +275,18 @@ int MCX514Module::Motion_cfgAxis(const Call& c, const Value& port_in, const Valu
   return g.status;
 }
 
-#define ORV_MCX514_ENABLE_AND_POLARITY(Name, en, pol, SetEnable, SetPolarity)              \
-  int MCX514Module::Name(const Call& c, const Value& port_in, const Value& axis,           \
-                         const Value& en, const Value& pol) {                              \
-    const Value port = portOf(port_in);                                                    \
-    _checkMCX514MotionPort(port);                                                          \
-    _checkMCX514Axis(axis);                                                                \
-    _checkMCX514Enable(en);                                                                \
-    _checkMCX514Polarity(pol);                                                             \
-    Greatest g;                                                                            \
-    g += SetEnable(c, port, axis, en);                                                     \
-    g += SetPolarity(c, port, axis, pol);                                                  \
-    return g.status;                                                                       \
+#define ORV_MCX514_ENABLE_AND_POLARITY(Name, en, pol, SetEnable, SetPolarity)                     \
+  int MCX514Module::Name(const Call& c, const Value& port_in, const Value& axis, const Value& en, \
+                         const Value& pol) {                                                      \
+    const Value port = portOf(port_in);                                                           \
+    _checkMCX514MotionPort(port);                                                                 \
+    _checkMCX514Axis(axis);                                                                       \
+    _checkMCX514Enable(en);                                                                       \
+    _checkMCX514Polarity(pol);                                                                    \
+    Greatest g;                                                                                   \
+    g += SetEnable(c, port, axis, en);                                                            \
+    g += SetPolarity(c, port, axis, pol);                                                         \
+    return g.status;                                                                              \
   }
 ORV_MCX514_ENABLE_AND_POLARITY(Motion_cfgAlarm, en_alarm, alarm_polarity,
                                Motion_setAlarmLimitEnable_, Motion_setAlarmPolarity_)
@@ -322,7 +320,8 @@ int MCX514Module::Motion_cfgEncoder(const Call& c, const Value& port_in, const V
   _checkMCX514Axis(axis);
   _checkMCX514Polarity(encoder_z_polarity);
   axisOf(axis).motion_dict.set("Encoder Z Polarity", encoder_z_polarity);
-  const int64_t z = c.isAwaitable() ? bitOf(encoder_z_polarity) : (isZero(encoder_z_polarity) ? 1 : 0);
+  const int64_t z =
+      c.isAwaitable() ? bitOf(encoder_z_polarity) : (isZero(encoder_z_polarity) ? 1 : 0);
   return changeWord(c, port, axis, false, {{4, z}});
 }
 
@@ -340,8 +339,8 @@ int MCX514Module::Motion_cfgJerkAndAccelMode(const Call&, const Value& port_in, 
 }
 
 int MCX514Module::Motion_cfgAxisMove(const Call& c, const Value& port_in, const Value& axis,
-                                     const Value& mode, const Value& target_posi,
-                                     const Value& velo, const Value& accel, const Value& decel) {
+                                     const Value& mode, const Value& target_posi, const Value& velo,
+                                     const Value& accel, const Value& decel) {
   const Value port = portOf(port_in);
   _checkMCX514MotionPort(port);
   _checkMCX514Axis(axis);
@@ -446,8 +445,8 @@ int MCX514Module::Motion_overrideAxisVelocity(const Call& c, const Value& port_i
 int MCX514Module::Motion_cfgFindRef(const Call& c, const Value& port_in, const Value& axis,
                                     const Value& search_type, const Value& search_dir,
                                     const Value& search_velo, const Value& search_accle,
-                                    const Value& approach_velo_percent,
-                                    const Value& en_reset_posi, const Value& offset_posi) {
+                                    const Value& approach_velo_percent, const Value& en_reset_posi,
+                                    const Value& offset_posi) {
   const Value port = portOf(port_in);
   _checkMCX514MotionPort(port);
   _checkMCX514Axis(axis);
@@ -566,8 +565,7 @@ int64_t MCX514Module::Motion_getMoveStatus(const Call& c, const Value& port, con
   return Motion_checkRef(c, port, axis);
 }
 
-int64_t MCX514Module::Motion_getHomeStatus(const Call& c, const Value& port_in,
-                                           const Value& axis) {
+int64_t MCX514Module::Motion_getHomeStatus(const Call& c, const Value& port_in, const Value& axis) {
   const Value port = portOf(port_in);
   _checkMCX514MotionPort(port);
   _checkMCX514Axis(axis);
@@ -682,7 +680,7 @@ const char* const kSections[] = {"Axis_1", "Axis_2", "Axis_3", "Axis_4"};
 
 // The awaitable twins of open and save yield to the event loop once.
 void yieldOnce(const Call& c) {
-  (void)c;  // PENDING Call::sleep from main: if (c.isAwaitable()) c.sleep(0.001);
+  if (c.isAwaitable()) c.sleep(0.001);
 }
 }  // namespace
 

@@ -40,8 +40,8 @@ class MCX514Module : public MCX514Driver {
   int Motion_open(const Call& c, const Value& port);
   int Motion_close(const Call& c, const Value& port);
   int Motion_stop(const Call& c, const Value& port, const Value& axis, const Value& mode);
-  int Motion_cfgAxis(const Call& c, const Value& port, const Value& axis, const Value& stepper_output,
-                     const Value& axis_dir, const Value& encoder_dir,
+  int Motion_cfgAxis(const Call& c, const Value& port, const Value& axis,
+                     const Value& stepper_output, const Value& axis_dir, const Value& encoder_dir,
                      const Value& servo_on_polarity);
   int Motion_cfgAlarm(const Call& c, const Value& port, const Value& axis, const Value& en_alarm,
                       const Value& alarm_polarity);
@@ -67,10 +67,9 @@ class MCX514Module : public MCX514Driver {
   int Motion_overrideAxisVelocity(const Call& c, const Value& port, const Value& axis,
                                   const Value& new_velo);
   int Motion_cfgFindRef(const Call& c, const Value& port, const Value& axis,
-                        const Value& search_type, const Value& search_dir,
-                        const Value& search_velo, const Value& search_accle,
-                        const Value& approach_velo_percent, const Value& en_reset_posi,
-                        const Value& offset_posi);
+                        const Value& search_type, const Value& search_dir, const Value& search_velo,
+                        const Value& search_accle, const Value& approach_velo_percent,
+                        const Value& en_reset_posi, const Value& offset_posi);
   int Motion_findRef(const Call& c, const Value& port, const Value& axis);
   int64_t Motion_checkRef(const Call& c, const Value& port, const Value& axis);
   int64_t Motion_getMoveStatus(const Call& c, const Value& port, const Value& axis);
@@ -91,19 +90,19 @@ class MCX514Module : public MCX514Driver {
   // ---- interpolation and synchronous actions ----
   int Motion_cfg2AxisLinearInterpo(const Call& c, const Value& port, const Value& axis1,
                                    const Value& dest_posi1, const Value& axis2,
-                                   const Value& dest_posi2, const Value& speed,
-                                   const Value& accel, const Value& decel);
+                                   const Value& dest_posi2, const Value& speed, const Value& accel,
+                                   const Value& decel);
   int Motion_cfg3AxisLinearInterpo(const Call& c, const Value& port, const Value& axis1,
                                    const Value& dest_posi1, const Value& axis2,
                                    const Value& dest_posi2, const Value& axis3,
-                                   const Value& dest_posi3, const Value& speed,
-                                   const Value& accel, const Value& decel);
+                                   const Value& dest_posi3, const Value& speed, const Value& accel,
+                                   const Value& decel);
   int Motion_cfg4AxisLinearInterpo(const Call& c, const Value& port, const Value& axis1,
                                    const Value& dest_posi1, const Value& axis2,
                                    const Value& dest_posi2, const Value& axis3,
                                    const Value& dest_posi3, const Value& axis4,
-                                   const Value& dest_posi4, const Value& speed,
-                                   const Value& accel, const Value& decel);
+                                   const Value& dest_posi4, const Value& speed, const Value& accel,
+                                   const Value& decel);
   int Motion_startLinearInterpo(const Call& c, const Value& port);
   int Motion_cfgCircularInterpo(const Call& c, const Value& port, const Value& x_axis,
                                 const Value& y_axis, const Value& center_point_x,

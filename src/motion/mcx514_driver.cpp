@@ -129,8 +129,7 @@ Bytes mcx514Packet(const McxOp& op, const Value& port, std::span<const Value> ar
   return out;
 }
 
-int64_t mcx514Send(const Call& c, const McxOp& op, const Value& port,
-                   std::span<const Value> args) {
+int64_t mcx514Send(const Call& c, const McxOp& op, const Value& port, std::span<const Value> args) {
   // Releasing a held start first checks the axis mask with an axis check
   // that this version of the chip layer does not have: the call ends there,
   // before any packet.
@@ -141,9 +140,9 @@ int64_t mcx514Send(const Call& c, const McxOp& op, const Value& port,
   const Bytes data_in = c.exchange(MOTION, data_out);
   auto need = [&](size_t n) {
     if (data_in.size() < n)
-      raise(ErrorId::ReplyFormatError,
-            "The MOTION reply of code " + std::to_string(op.code) + " holds " +
-                std::to_string(data_in.size()) + " bytes, " + std::to_string(n) + " expected.");
+      raise(ErrorId::ReplyFormatError, "The MOTION reply of code " + std::to_string(op.code) +
+                                           " holds " + std::to_string(data_in.size()) + " bytes, " +
+                                           std::to_string(n) + " expected.");
   };
   const auto at = [&](size_t from, size_t n) { return std::span(data_in).subspan(from, n); };
   switch (op.reply) {

@@ -60,9 +60,11 @@ constexpr size_t countArgs(std::initializer_list<const char*> a) { return a.size
 }  // namespace mcx514
 
 inline constexpr std::array<McxOp, mcx514::kRows> kMcx514Ops{{
-#define ORV_MCX514_OP(Cpp, name, code, form, axis, conv, reply, ...)                   \
-  McxOp{name,          code,         McxForm::form, McxAxis::axis, McxConv::conv, \
-        McxReply::reply, {__VA_ARGS__}, mcx514::countArgs({__VA_ARGS__})},
+#define ORV_MCX514_OP(Cpp, name, code, form, axis, conv, reply, ...) \
+  McxOp{name,          code,                                         \
+        McxForm::form, McxAxis::axis,                                \
+        McxConv::conv, McxReply::reply,                              \
+        {__VA_ARGS__}, mcx514::countArgs({__VA_ARGS__})},
 #include "motion/mcx514_registers.def"
 #undef ORV_MCX514_OP
 }};
@@ -74,8 +76,7 @@ using McxResult = std::conditional_t<kMcx514Ops[Row].reply == McxReply::Status, 
 // The packet of a row, checked and converted; raises before anything is sent.
 Bytes mcx514Packet(const McxOp& op, const Value& port, std::span<const Value> args);
 // Sends a row's packet and returns its status or value.
-int64_t mcx514Send(const Call& c, const McxOp& op, const Value& port,
-                   std::span<const Value> args);
+int64_t mcx514Send(const Call& c, const McxOp& op, const Value& port, std::span<const Value> args);
 
 // Linear interpolation request (two to four axes).
 struct MotionLinearInterpolation {
@@ -133,10 +134,10 @@ class MCX514Driver : public ModuleBase {
   }
 
   // Every row by its name: Motion_setAcceleration_(c, port, axis, value).
-#define ORV_MCX514_OP(Cpp, ...)                                      \
-  template <class... A>                                              \
+#define ORV_MCX514_OP(Cpp, ...)                                                 \
+  template <class... A>                                                         \
   McxResult<mcx514::Cpp> Cpp(const Call& c, const Value& port, const A&... a) { \
-    return run<mcx514::Cpp>(c, port, a...);                          \
+    return run<mcx514::Cpp>(c, port, a...);                                     \
   }
 #include "motion/mcx514_registers.def"
 #undef ORV_MCX514_OP

@@ -70,38 +70,37 @@ int MCX514Module::linearInterpo(const Call& c, const Value& port_in,
   g += Motion_setDriveSpeed_(c, port, main_axis, speed);
   g += Motion_setAcceleration_(c, port, main_axis, accel);
   g += Motion_setDeceleration_(c, port, main_axis, decel);
-  for (const auto& [axis, dest] : pairs) g += Motion_setDrivePositionFinishPoint_(c, port, axis, dest);
+  for (const auto& [axis, dest] : pairs)
+    g += Motion_setDrivePositionFinishPoint_(c, port, axis, dest);
   g += Motion_enableDeceleration_(c, port);
   return g.status;
 }
 
-int MCX514Module::Motion_cfg2AxisLinearInterpo(const Call& c, const Value& port,
-                                               const Value& axis1, const Value& dest_posi1,
-                                               const Value& axis2, const Value& dest_posi2,
-                                               const Value& speed, const Value& accel,
-                                               const Value& decel) {
+int MCX514Module::Motion_cfg2AxisLinearInterpo(const Call& c, const Value& port, const Value& axis1,
+                                               const Value& dest_posi1, const Value& axis2,
+                                               const Value& dest_posi2, const Value& speed,
+                                               const Value& accel, const Value& decel) {
   return linearInterpo(c, port, {{axis1, dest_posi1}, {axis2, dest_posi2}}, speed, accel, decel);
 }
 
-int MCX514Module::Motion_cfg3AxisLinearInterpo(const Call& c, const Value& port,
-                                               const Value& axis1, const Value& dest_posi1,
-                                               const Value& axis2, const Value& dest_posi2,
-                                               const Value& axis3, const Value& dest_posi3,
-                                               const Value& speed, const Value& accel,
-                                               const Value& decel) {
+int MCX514Module::Motion_cfg3AxisLinearInterpo(const Call& c, const Value& port, const Value& axis1,
+                                               const Value& dest_posi1, const Value& axis2,
+                                               const Value& dest_posi2, const Value& axis3,
+                                               const Value& dest_posi3, const Value& speed,
+                                               const Value& accel, const Value& decel) {
   return linearInterpo(c, port, {{axis1, dest_posi1}, {axis2, dest_posi2}, {axis3, dest_posi3}},
                        speed, accel, decel);
 }
 
-int MCX514Module::Motion_cfg4AxisLinearInterpo(
-    const Call& c, const Value& port, const Value& axis1, const Value& dest_posi1,
-    const Value& axis2, const Value& dest_posi2, const Value& axis3, const Value& dest_posi3,
-    const Value& axis4, const Value& dest_posi4, const Value& speed, const Value& accel,
-    const Value& decel) {
+int MCX514Module::Motion_cfg4AxisLinearInterpo(const Call& c, const Value& port, const Value& axis1,
+                                               const Value& dest_posi1, const Value& axis2,
+                                               const Value& dest_posi2, const Value& axis3,
+                                               const Value& dest_posi3, const Value& axis4,
+                                               const Value& dest_posi4, const Value& speed,
+                                               const Value& accel, const Value& decel) {
   return linearInterpo(
-      c, port,
-      {{axis1, dest_posi1}, {axis2, dest_posi2}, {axis3, dest_posi3}, {axis4, dest_posi4}}, speed,
-      accel, decel);
+      c, port, {{axis1, dest_posi1}, {axis2, dest_posi2}, {axis3, dest_posi3}, {axis4, dest_posi4}},
+      speed, accel, decel);
 }
 
 int MCX514Module::Motion_startLinearInterpo(const Call& c, const Value& port_in) {
@@ -121,14 +120,11 @@ int MCX514Module::Motion_startLinearInterpo(const Call& c, const Value& port_in)
   return g.status;
 }
 
-int MCX514Module::Motion_cfgCircularInterpo(const Call& c, const Value& port_in,
-                                            const Value& x_axis, const Value& y_axis,
-                                            const Value& center_point_x,
-                                            const Value& center_point_y,
-                                            const Value& finish_point_x,
-                                            const Value& finish_point_y, const Value& dir,
-                                            const Value& speed, const Value& accel,
-                                            const Value& decel) {
+int MCX514Module::Motion_cfgCircularInterpo(
+    const Call& c, const Value& port_in, const Value& x_axis, const Value& y_axis,
+    const Value& center_point_x, const Value& center_point_y, const Value& finish_point_x,
+    const Value& finish_point_y, const Value& dir, const Value& speed, const Value& accel,
+    const Value& decel) {
   const Value port = portOf(port_in);
   _checkMCX514MotionPort(port);
   _checkMCX514Axis(x_axis);
@@ -227,12 +223,13 @@ int MCX514Module::Motion_writeHelicalInterpolation_(
   return g.status;
 }
 
-int MCX514Module::Motion_cfgHelicalInterpo(
-    const Call& c, const Value& port_in, const Value& center_point_x, const Value& center_point_y,
-    const Value& finish_point_x, const Value& finish_point_y, const Value& en_axis3,
-    const Value& pitch_axis3, const Value& en_axis4, const Value& pitch_axis4,
-    const Value& rotation_number, const Value& speed, const Value& dir,
-    const Value& calculation_timeout) {
+int MCX514Module::Motion_cfgHelicalInterpo(const Call& c, const Value& port_in,
+                                           const Value& center_point_x, const Value& center_point_y,
+                                           const Value& finish_point_x, const Value& finish_point_y,
+                                           const Value& en_axis3, const Value& pitch_axis3,
+                                           const Value& en_axis4, const Value& pitch_axis4,
+                                           const Value& rotation_number, const Value& speed,
+                                           const Value& dir, const Value& calculation_timeout) {
   const Value port = portOf(port_in);
   _checkMCX514MotionPort(port);
   for (const Value* v : {&center_point_x, &center_point_y, &finish_point_x, &finish_point_y})
