@@ -190,6 +190,41 @@ def test_the_motion_checks_are_warnings_and_keep_their_crossed_classes(axis):
 WR3_AXIS1_DEFAULT = [0, 0xE3, 2, 0, 0, 0, 0x58]  # step/dir, not inverted
 
 
+def rd(code, axis_byte):
+    return [0, code, axis_byte, 0, 0, 0, 0]
+
+
+@pytest.mark.parametrize("call, expected", [
+    (lambda d: d.Motion_cfgAxis(0, 0, 1, 1, 1, 0),      # CW/CCW, both directions inverted
+     [rd(0x3F, 1), [0, 0xE3, 1, 0, 0, 0, 0x40], rd(0x3F, 1), [0, 0xE3, 1, 0, 0, 0x08, 0x40]]),
+    (lambda d: d.Motion_cfgLimit(0, 3, 1, 0, 0),
+     [rd(0x3E, 8), [0, 0xE2, 8, 0, 0, 0x08, 0], rd(0x3E, 8), [0, 0xE2, 8, 0, 0, 0x08, 0]]),
+    (lambda d: d.Motion_cfgAlarm(0, 1, 1, 1),
+     [rd(0x3E, 2), [0, 0xE2, 2, 0, 0, 0x02, 0], rd(0x3E, 2), [0, 0xE2, 2, 0, 0, 0x03, 0]]),
+    (lambda d: d.Motion_cfgHome(0, 1, 1, 0),
+     [rd(0x3E, 2), [0, 0xE2, 2, 0, 0, 0, 0x08], rd(0x3E, 2), [0, 0xE2, 2, 0, 0, 0, 0x08]]),
+    (lambda d: d.Motion_cfgInposi(0, 1, 1, 1),
+     [rd(0x3E, 2), [0, 0xE2, 2, 0, 0, 0, 0x80], rd(0x3E, 2), [0, 0xE2, 2, 0, 0, 0, 0xC0]]),
+    (lambda d: d.Motion_cfgEncoder(0, 0, 0), [rd(0x3E, 1), [0, 0xE2, 1, 0, 0, 0, 0x10]]),
+    (lambda d: asyncio.run(d.Motion_cfgEncoder_async(0, 0, 0)),   # the twin writes it as given
+     [rd(0x3E, 1), [0, 0xE2, 1, 0, 0, 0, 0]]),
+    (lambda d: d.Motion_rstEncoderPosi(0, 2, -5),
+     [[0, 0x09, 4, 255, 255, 255, 0xFB], [0, 0x0A, 4, 255, 255, 255, 0xFB]]),
+    (lambda d: d.Motion_stop(0, 1, 1), [rd(0x57, 2)]),
+    (lambda d: d.Motion_stop(0, 1, 0), [rd(0x56, 2)]),
+    (lambda d: d.Motion_findRef(0, 2), [rd(0x5A, 4)]),
+    (lambda d: d.Motion_checkRef(0, 2), [rd(0xE8, 0)]),
+    (lambda d: d.Motion_readCapturePoint(0, 1), [rd(0x37, 2)]),
+    (lambda d: d.Motion_enableBreakPoint(0, 3, 0), [rd(0x91, 8)]),
+    (lambda d: d.Motion_overrideAxisPosi(0, 0, -3), [[0, 0x06, 1, 255, 255, 255, 0xFD]]),
+    (lambda d: d.Motion_close(0), []),
+])
+def test_short_operations_packet_by_packet(axis, call, expected):
+    dev, s = axis
+    assert call(dev) in (0, 1)
+    assert motion(s) == expected
+
+
 def test_cfg_axis_move_packet_by_packet(axis):
     dev, s = axis
     assert dev.Motion_cfgAxisMove(0, 1, 0, 5000, 20000, 40000, 30000) == 0
