@@ -534,3 +534,44 @@ def test_file_names_are_checked_in_order(axis, tmp_path):
     (tmp_path / "a.ini").write_text("")
     assert asyncio.run(dev.Motion_openCfgFile_async(str(tmp_path / "a.ini"))) == 0
     assert (dev.inifile, dev.inimode) == (str(tmp_path / "a.ini"), "w")
+
+
+@pytest.mark.parametrize("label, value, word", [
+    ("Stepper Output", 1, "CW/CCW(Two Pulse)"),
+    ("Initial Search Direction", 0, "Forward"),
+    ("Alarm Polarity", 1, "Active High"),
+    ("Home Enable", 0, "FALSE"),
+])
+def test_ini_words_both_ways(axis, label, value, word):
+    ini = axis[0].motion_ini
+    assert ini._Motion_INI_convertIntToString(label, value) == word
+    assert ini._Motion_INI_convertStringToInt(label, word) == value
+    with pytest.raises(KeyError):
+        ini._Motion_INI_convertStringToInt(label, "Sideways")
+    assert ini._Motion_INI_convertStringToInt("Approach Velocity Percent", "12.5") == 12.5
+    assert ini._Motion_INI_convertStringToInt("Offset Position", "-7") == -7
+
+
+def test_awaitable_helix_waits_on_the_loop_like_the_blocking_one(pair):
+    results = []
+    for twin in ("blocking", "awaitable"):
+        dev, s = pair("MerlinAxis")
+        s.state_set("mcx514.helical_busy", 3)
+        s.state_set("mcx514.helical_value", 99)
+        args = (0, 1, 2, 3, 4, 0, 0, 1, 7, 1, 200, 1, 1000)
+        if twin == "blocking":
+            assert dev.Motion_cfgHelicalInterpo(*args) == 0
+        else:
+            assert asyncio.run(dev.Motion_cfgHelicalInterpo_async(*args)) == 0
+        assert dev.helical_interpo.calculation_result == 99
+        results.append(motion(s))
+    assert results[0] == results[1] and [p[1] for p in results[0]].count(0xE8) == 4
+
+
+def test_a_silent_chip_ends_a_composite_at_its_first_step(axis):
+    dev, s = axis
+    s.set_handler(MOTION, lambda ctx, req: None)
+    with pytest.raises(pyorv.ReceivePacketTimeoutError):
+        dev.Motion_cfgAxisMove(0, 0, 0, 10, timeout=0.3)
+    assert {p[1] for p in motion(s)} == {0x06}   # the target step only, however often tried
+    assert dev.axis_1.target_position == 10
