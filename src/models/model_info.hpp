@@ -70,6 +70,9 @@ struct ModelInfo {
   // KestrelTherm: the thermal port has pins of its own; opening it checks no
   // pin modes and closing it sends nothing.
   bool thermal_board = false;
+  // Ports of the public operations are slot numbers from 1: the operation
+  // first takes changeToTrellisPort of the port (Trellis).
+  bool slot_ports = false;
   // The year the real-time clock counts from.
   int rtc_base_year = 1900;
 

@@ -155,7 +155,8 @@ std::vector<ModelInfo> makeTable() {
                .dio_num_pins_per_port = 12,
                .ai = kAiTrellis,
                .ao = kAo10V,
-               .dio_fixed_direction = true});
+               .dio_fixed_direction = true,
+               .slot_ports = true});
   // An empty class: no device, no module.
   t.push_back({.class_name = "TrellisLite", .label = "Trellis-Lite"});
   t.push_back({.class_name = "MerlinDrive",
