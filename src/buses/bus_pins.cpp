@@ -36,7 +36,10 @@ void checkBusPort(const PortMap& map, const Value& port, ErrorId not_there) {
 }
 
 namespace {
+// map[port]: a list is no key at all (unhashable), anything else not found
+// is a KeyError.
 const std::vector<PinPair>& pinsOrKeyError(const PortMap& map, const Value& port) {
+  if (port.isList()) throw TypeError("unhashable type: 'list'");
   const std::vector<PinPair>* pins = busPins(map, port);
   if (!pins) throw KeyError(port.repr());
   return *pins;

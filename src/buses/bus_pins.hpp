@@ -28,7 +28,7 @@ const std::vector<PinPair>* busPins(const PortMap& map, const Value& port);
 void checkBusPort(const PortMap& map, const Value& port, ErrorId not_there);
 
 // The digital ports the pins of a bus port lie on, each once, ascending.
-// A port that is no key of the map raises KeyError.
+// A port that is no key of the map raises KeyError, a list TypeError.
 std::vector<int64_t> busPinMapPorts(const PortMap& map, const Value& port);
 
 // Reads the pin modes of each digital port of the bus (Sys_getPinModeInPort)

@@ -104,6 +104,7 @@ def test_status_commands_wire_bytes(bus):
     (lambda d: d.I2C_write(1, EEPROM, [0] * 256), ValueError),  # nor does the length
     (lambda d: d.I2C_read(1, EEPROM, 2.0), pyorv.InputTypeNotCorrectError),
     (lambda d: d.I2C_read(2.0, EEPROM, 2), pyorv.InputTypeNotCorrectError),
+    (lambda d: d._checkI2CPinState([1], ["Idle"]), TypeError),  # a list is no dict key
 ])
 def test_argument_errors_send_nothing(plover, call, error):
     dev, s = plover
