@@ -189,13 +189,39 @@ void EchoPool::wakeAll() {
 // ---- StreamQueue -------------------------------------------------------------
 
 bool StreamQueue::push(Bytes item) {
+  std::shared_ptr<Doorbell> bell;
   {
     std::lock_guard lk(m_);
     if (max_ != 0 && q_.size() >= max_) return false;
     q_.push_back(std::move(item));
+    bell = bell_;
   }
   cv_.notify_all();
+  if (bell) bell->ring();
   return true;
+}
+
+void StreamQueue::setBell(std::shared_ptr<Doorbell> bell) {
+  std::lock_guard lk(m_);
+  bell_ = std::move(bell);
+}
+
+uint64_t Doorbell::seq() const {
+  std::lock_guard lk(m_);
+  return seq_;
+}
+
+void Doorbell::ring() {
+  {
+    std::lock_guard lk(m_);
+    ++seq_;
+  }
+  cv_.notify_all();
+}
+
+void Doorbell::wait(uint64_t seen, const std::atomic<bool>& stop) {
+  std::unique_lock lk(m_);
+  cv_.wait(lk, [&] { return seq_ != seen || stop.load(); });
 }
 
 std::optional<Bytes> StreamQueue::tryPop() {

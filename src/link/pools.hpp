@@ -105,6 +105,24 @@ struct StreamKey {
   static StreamKey triple(int c, int p, int s) { return {c, p, s, 3}; }
 };
 
+// Wakes one thread that watches several stream queues (a decoder): each
+// queue that has the bell rings it after a push.  The watcher notes seq()
+// before it looks into its queues and waits for a change after finding them
+// empty, so a push between the two is never missed.
+class Doorbell {
+ public:
+  uint64_t seq() const;
+  void ring();
+  // Waits until seq() differs from `seen` or `stop` is set (ring after
+  // setting it).
+  void wait(uint64_t seen, const std::atomic<bool>& stop);
+
+ private:
+  mutable std::mutex m_;
+  std::condition_variable cv_;
+  uint64_t seq_ = 0;
+};
+
 // An unbounded (or bounded) thread-safe FIFO of byte records.
 class StreamQueue {
  public:
@@ -119,10 +137,13 @@ class StreamQueue {
   size_t size() const;
   void clear();
   void close();  // wakes waiters for good
+  // Rung after every push from now on (nullptr: none).
+  void setBell(std::shared_ptr<Doorbell> bell);
 
  private:
   mutable std::mutex m_;
   std::condition_variable cv_;
+  std::shared_ptr<Doorbell> bell_;
   std::deque<Bytes> q_;
   size_t max_;
   bool closed_ = false;
