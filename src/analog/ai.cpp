@@ -66,18 +66,6 @@ void unpackAppend(const Bytes& b, AiSample& out) {
 
 int64_t portKey(const Value& port) { return port.asInt(); }
 
-// TEMPORARY until Call::waitQueue lands from main.
-struct WaitShim {
-  const Call& c;
-  bool waitQueue(StreamQueue& q, size_t n, Clock::time_point deadline) const {
-    while (q.size() < n) {
-      if (Clock::now() >= deadline) return false;
-      c.checkCancelled();
-      std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    }
-    return true;
-  }
-};
 
 std::vector<uint32_t> words(const Bytes& data_in, size_t from, size_t count, int cmd) {
   needReplyBytes(data_in, from + 4 * count, cmd);
@@ -91,6 +79,24 @@ std::vector<uint32_t> words(const Bytes& data_in, size_t from, size_t count, int
 
 // ---------------------------------------------------------------------------
 // Life.
+
+uint64_t Doorbell::seq() const {
+  std::lock_guard lk(m_);
+  return seq_;
+}
+
+void Doorbell::ring() {
+  {
+    std::lock_guard lk(m_);
+    ++seq_;
+  }
+  cv_.notify_all();
+}
+
+void Doorbell::wait(uint64_t seen, const std::atomic<bool>& stop) {
+  std::unique_lock lk(m_);
+  cv_.wait(lk, [&] { return seq_ != seen || stop.load(); });
+}
 
 AIModule::AIModule() {
   ai_lock_.close();  // held from the start: the decoder stands still
@@ -107,6 +113,7 @@ void AIModule::closeModule() noexcept {
   std::call_once(join_once_, [this] {
     if (thread_.joinable() && thread_.get_id() != std::this_thread::get_id()) thread_.join();
   });
+  closeDecoded();  // a read still waiting ends with DeviceClosedError
 }
 
 void AIModule::AI_free_() { closeModule(); }
@@ -116,9 +123,7 @@ AIModule::Streams& AIModule::streams() {
     StreamPool& pool = device().streamPool();
     const int cmd = aiStrmCmd();
     auto add = [&](int port, int cs) {
-      auto raw = pool.get(StreamKey::triple(cmd, port, cs));
-      raw->setBell(bell_);
-      streams_.raw.push_back(raw);
+      streams_.raw.push_back(pool.get(StreamKey::triple(cmd, port, cs)));
       streams_.decoded.push_back(std::make_shared<StreamQueue>(QUEUE_SIZE_MAX));
     };
     if (model().ai.slots) {
@@ -136,6 +141,11 @@ void AIModule::putMarkers() {
   // Only once the queues exist: before that no record was taken from them.
   if (!streams_made_.load()) return;
   for (auto& q : streams_.raw) q->push(Bytes{});
+}
+
+void AIModule::closeDecoded() {
+  if (!streams_made_.load()) return;
+  for (auto& q : streams_.decoded) q->close();
 }
 
 // ai_stream_thread: through the gate, one raw record from each raw queue,
@@ -156,7 +166,7 @@ void AIModule::decodeLoop() {
         if (rec->empty()) continue;  // a close marker
         decodeRecord(*rec, *s.decoded[i]);
       }
-      if (!took) bell_->wait(seen, killed_);
+      if (!took) sleepUntilRecord(s, seen);
     }
   } catch (const std::exception& e) {
     // A malformed record ends the decoder; readers find no more samples.
@@ -164,6 +174,22 @@ void AIModule::decodeLoop() {
     report::genericError(e);
   }
   decoder_alive_.store(false);
+}
+
+// Watches every raw queue for one record and sleeps until one rings.
+void AIModule::sleepUntilRecord(Streams& s, uint64_t seen) {
+  std::vector<std::pair<StreamQueue*, uint64_t>> watches;
+  bool ready = false;
+  for (auto& q : s.raw) {
+    const uint64_t id = q->watch(1, [bell = bell_] { bell->ring(); });
+    if (id == 0) {
+      ready = true;  // a record is there already
+      break;
+    }
+    watches.emplace_back(q.get(), id);
+  }
+  if (!ready) bell_->wait(seen, killed_);
+  for (auto& [q, id] : watches) q->unwatch(id);
 }
 
 void AIModule::decodeRecord(const Bytes& raw, StreamQueue& out) {
@@ -503,7 +529,7 @@ AiSamples AIModule::AI_readStreaming(const Call& c, const Value& port_in, int64_
     const auto deadline =
         Clock::now() + std::chrono::duration_cast<Clock::duration>(
                            std::chrono::duration<double>(std::min(delay, 1e9)));
-    for (StreamQueue* q : queues) WaitShim{c}.waitQueue(*q, static_cast<size_t>(num_samples), deadline);
+    for (StreamQueue* q : queues) c.waitQueue(*q, static_cast<size_t>(num_samples), deadline);
     int64_t n_min = 2147483648;
     for (StreamQueue* q : queues) n_min = std::min(n_min, static_cast<int64_t>(q->size()));
     samp_count = n_min;
@@ -517,7 +543,7 @@ AiSamples AIModule::AI_readStreaming(const Call& c, const Value& port_in, int64_
       // Another reader took it meanwhile: the blocking twin waits for the
       // next, the awaitable one takes what is there.
       while (!item && !c.isAwaitable()) {
-        WaitShim{c}.waitQueue(*q, 1, Clock::time_point::max());
+        c.waitQueue(*q, 1, Clock::time_point::max());
         item = q->tryPop();
       }
       if (item) unpackAppend(*item, sample);

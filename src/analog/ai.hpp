@@ -17,6 +17,7 @@
 #pragma once
 
 #include <atomic>
+#include <condition_variable>
 #include <cstdint>
 #include <memory>
 #include <mutex>
@@ -57,6 +58,23 @@ inline double aiVolts(int16_t count, double ratio) { return roundHalfEven(count 
 // A 24-bit offset-binary count (2^23 is zero) of the given port: current in
 // mA on port 0, volts otherwise, round(..., 3).
 double ai24Value(uint32_t count, int re_port);
+
+// Wakes the decoder when a record reaches one of its raw queues: each queue
+// watched rings it (StreamQueue::watch).  The decoder notes seq() before it
+// looks into its queues and waits for a change after finding them empty, so
+// a record that comes in between is never missed.
+class Doorbell {
+ public:
+  uint64_t seq() const;
+  void ring();
+  // Until seq() differs from `seen` or `stop` is set (ring after setting it).
+  void wait(uint64_t seen, const std::atomic<bool>& stop);
+
+ private:
+  mutable std::mutex m_;
+  std::condition_variable cv_;
+  uint64_t seq_ = 0;
+};
 
 using AiSample = std::vector<double>;
 using AiSamples = std::vector<AiSample>;
@@ -113,7 +131,7 @@ class AIModule : public ModuleBase {
   uint64_t droppedSamples() const { return dropped_.load(); }
   bool decoderAlive() const { return decoder_alive_.load(); }
   // Ends and joins the decoder (the model's close and the destructor).
-  void closeModule() noexcept;
+  void closeModule() noexcept override;
 
  private:
   struct Streams {
@@ -122,10 +140,12 @@ class AIModule : public ModuleBase {
   // Made on first use: the model's row is not there while modules construct.
   Streams& streams();
   void decodeLoop();
+  void sleepUntilRecord(Streams& s, uint64_t seen);
   // One raw record into samples on `out`.
   void decodeRecord(const Bytes& raw, StreamQueue& out);
   std::vector<int64_t>& chipSelectRef(int64_t port);
   void putMarkers();
+  void closeDecoded();
   Value slotPort(const Value& port) const;
 
   std::atomic<int> num_channels_{-1};  // -1: the model's value

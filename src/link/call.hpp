@@ -71,6 +71,20 @@ class Call {
     dev_.sendPacketWithoutReply(cmd, data_out);
   }
 
+  // Until q holds n items (true) or the deadline passes (false); the
+  // awaitable parks its fiber meanwhile.  Cancelled on Ctrl-C or a cancelled
+  // task, DeviceClosedError when the queue closes with the device.
+  bool waitQueue(StreamQueue& q, size_t n, Clock::time_point deadline) const {
+    return Device::waitQueue(q, n, deadline, tok_);
+  }
+
+  // A pause between steps of an operation, for both twins alike.
+  void sleep(double seconds) const {
+    checkCancelled();
+    if (!(seconds > 0)) return;
+    dev_.pauseUntil(deadlineAfter(Clock::now(), seconds), tok_);
+  }
+
   // Stream records, flattened; the awaitable twin returns at once what is there.
   Bytes streaming(StreamQueue& q, int64_t num_samples, double delay) const {
     if (isAwaitable()) return dev_.getStreamingFromPoolAsync(q, num_samples);

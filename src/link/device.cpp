@@ -383,6 +383,27 @@ EchoPool::WaitResult poolSleep(EchoPool& pool, Clock::time_point deadline, Cance
 }
 }  // namespace
 
+void Device::pauseUntil(Clock::time_point deadline, CancelToken* tok) {
+  const auto r = poolSleep(echo_, deadline, tok);
+  if (r != EchoPool::WaitResult::TimedOut) waitFailed(r);
+}
+
+bool Device::waitQueue(StreamQueue& q, size_t n, Clock::time_point deadline, CancelToken* tok) {
+  const auto r =
+      Fiber::current() ? fiberWaitQueue(q, n, deadline, tok) : q.waitSize(n, deadline, tok);
+  switch (r) {
+    case StreamQueue::Wait::Ready:
+      return true;
+    case StreamQueue::Wait::TimedOut:
+      return false;
+    case StreamQueue::Wait::Cancelled:
+      throw Cancelled();
+    case StreamQueue::Wait::Closed:
+      break;
+  }
+  raise(ErrorId::DeviceClosedError);
+}
+
 Bytes Device::getReplyFromPool(int64_t key, double timeout, CancelToken* tok) {
   if (!(timeout > 0))
     raise(ErrorId::InputDataNotInRangeError, "The reply timeout must be greater than 0 seconds.");

@@ -149,6 +149,15 @@ class Device {
                             double timeout = PACKET_TIMEOUT, CancelToken* tok = nullptr);
   std::set<Bytes> broadcastPacket(int cmd, std::span<const uint8_t> data_out,
                                   CancelToken* tok = nullptr);
+  // A pause inside an operation: the calling thread sleeps, an awaitable's
+  // fiber parks.  A cancel throws Cancelled, the device's close
+  // DeviceClosedError.
+  void pauseUntil(Clock::time_point deadline, CancelToken* tok = nullptr);
+  // Until q holds n items (true) or the deadline (false), for a thread or an
+  // awaitable's fiber alike.  A cancel throws Cancelled, the queue's close
+  // DeviceClosedError.
+  static bool waitQueue(StreamQueue& q, size_t n, Clock::time_point deadline,
+                        CancelToken* tok = nullptr);
   // Items of a stream queue, flattened; num_samples -1 takes what is there.
   Bytes getStreamingFromPool(StreamQueue& q, int64_t num_samples, double delay,
                              CancelToken* tok = nullptr);

@@ -249,7 +249,50 @@ EchoPool::WaitResult fiberWait(EchoPool& pool, int64_t key, Clock::time_point de
   return w->result;
 }
 
+// A stream queue's wait: the fiber parks until the queue holds n items, is
+// closed, the deadline comes or the call is cancelled, whichever is first, and
+// then looks at the queue itself, so items that came meanwhile always win.
+StreamQueue::Wait waitQueueOnce(StreamQueue& q, size_t n, Clock::time_point deadline,
+                                CancelToken* tok) {
+  Fiber* f = Fiber::current();
+  auto w = std::make_shared<FiberWait>();
+  w->fiber = f;
+  std::shared_ptr<Reactor> reactor = f->reactor();
+  auto wake = [w] {
+    if (!w->done) w->finish(EchoPool::WaitResult::Taken);
+  };
+  const uint64_t watch = q.watch(n, [reactor, wake] { reactor->post(wake); });
+  if (watch == 0)
+    return q.closed() && q.size() < n ? StreamQueue::Wait::Closed : StreamQueue::Wait::Ready;
+  const uint64_t timer = deadline == Clock::time_point::max() ? 0 : reactor->callAt(deadline, wake);
+  if (tok) tok->setWaker([reactor, wake] { reactor->post(wake); });
+  if (tok && tok->cancelled()) reactor->post(wake);
+
+  Fiber::suspend();
+
+  if (tok) tok->setWaker(nullptr);
+  if (timer) reactor->cancelTimer(timer);
+  q.unwatch(watch);
+  if (q.size() >= n) return StreamQueue::Wait::Ready;
+  if (tok && tok->cancelled()) return StreamQueue::Wait::Cancelled;
+  if (q.closed()) return StreamQueue::Wait::Closed;
+  return Clock::now() >= deadline ? StreamQueue::Wait::TimedOut : StreamQueue::Wait::Ready;
+}
+
 }  // namespace
+
+StreamQueue::Wait fiberWaitQueue(StreamQueue& q, size_t n, Clock::time_point deadline,
+                                 CancelToken* tok) {
+  for (;;) {
+    if (q.size() >= n) return StreamQueue::Wait::Ready;
+    if (tok && tok->cancelled()) return StreamQueue::Wait::Cancelled;
+    if (q.closed()) return StreamQueue::Wait::Closed;
+    if (Clock::now() >= deadline) return StreamQueue::Wait::TimedOut;
+    const auto r = waitQueueOnce(q, n, deadline, tok);
+    // A wake that finds fewer items (another reader took them) waits again.
+    if (r != StreamQueue::Wait::Ready || q.size() >= n) return r;
+  }
+}
 
 EchoPool::WaitResult fiberWaitPop(EchoPool& pool, int64_t key, Clock::time_point deadline,
                                   Bytes& out, CancelToken* tok) {

@@ -189,39 +189,47 @@ void EchoPool::wakeAll() {
 // ---- StreamQueue -------------------------------------------------------------
 
 bool StreamQueue::push(Bytes item) {
-  std::shared_ptr<Doorbell> bell;
+  std::vector<std::function<void()>> due;
   {
     std::lock_guard lk(m_);
     if (max_ != 0 && q_.size() >= max_) return false;
     q_.push_back(std::move(item));
-    bell = bell_;
+    if (!watches_.empty()) due = takeDueWatches();
   }
   cv_.notify_all();
-  if (bell) bell->ring();
+  for (auto& fn : due) fn();
   return true;
 }
 
-void StreamQueue::setBell(std::shared_ptr<Doorbell> bell) {
-  std::lock_guard lk(m_);
-  bell_ = std::move(bell);
-}
-
-uint64_t Doorbell::seq() const {
-  std::lock_guard lk(m_);
-  return seq_;
-}
-
-void Doorbell::ring() {
-  {
-    std::lock_guard lk(m_);
-    ++seq_;
+std::vector<std::function<void()>> StreamQueue::takeDueWatches() {
+  std::vector<std::function<void()>> due;
+  for (auto it = watches_.begin(); it != watches_.end();) {
+    if (closed_ || q_.size() >= it->n) {
+      due.push_back(std::move(it->fn));
+      it = watches_.erase(it);
+    } else {
+      ++it;
+    }
   }
-  cv_.notify_all();
+  return due;
 }
 
-void Doorbell::wait(uint64_t seen, const std::atomic<bool>& stop) {
-  std::unique_lock lk(m_);
-  cv_.wait(lk, [&] { return seq_ != seen || stop.load(); });
+uint64_t StreamQueue::watch(size_t n, std::function<void()> fn) {
+  std::lock_guard lk(m_);
+  if (closed_ || q_.size() >= n) return 0;
+  const uint64_t id = next_watch_++;
+  watches_.push_back({id, n, std::move(fn)});
+  return id;
+}
+
+void StreamQueue::unwatch(uint64_t id) {
+  std::lock_guard lk(m_);
+  std::erase_if(watches_, [id](const Watch& w) { return w.id == id; });
+}
+
+bool StreamQueue::closed() const {
+  std::lock_guard lk(m_);
+  return closed_;
 }
 
 std::optional<Bytes> StreamQueue::tryPop() {
@@ -250,17 +258,23 @@ std::optional<Bytes> StreamQueue::popWait(Clock::time_point deadline, CancelToke
   }
 }
 
-bool StreamQueue::waitSize(size_t n, CancelToken* tok) {
+StreamQueue::Wait StreamQueue::waitSize(size_t n, Clock::time_point deadline, CancelToken* tok) {
   WakerScope ws(tok, [this] {
     { std::lock_guard lk(m_); }
     cv_.notify_all();
   });
   std::unique_lock lk(m_);
   for (;;) {
-    if (q_.size() >= n) return true;
+    if (q_.size() >= n) return Wait::Ready;
     if (ws.signalled(lk)) continue;
-    if ((tok && tok->cancelled()) || closed_) return false;
-    cv_.wait(lk);
+    if (tok && tok->cancelled()) return Wait::Cancelled;
+    if (closed_) return Wait::Closed;
+    if (deadline == Clock::time_point::max()) {
+      cv_.wait(lk);
+      continue;
+    }
+    if (Clock::now() >= deadline) return Wait::TimedOut;
+    cv_.wait_until(lk, deadline);
   }
 }
 
@@ -275,11 +289,14 @@ void StreamQueue::clear() {
 }
 
 void StreamQueue::close() {
+  std::vector<std::function<void()>> due;
   {
     std::lock_guard lk(m_);
     closed_ = true;
+    due = takeDueWatches();
   }
   cv_.notify_all();
+  for (auto& fn : due) fn();
 }
 
 // ---- StreamPool --------------------------------------------------------------

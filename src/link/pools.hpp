@@ -105,24 +105,6 @@ struct StreamKey {
   static StreamKey triple(int c, int p, int s) { return {c, p, s, 3}; }
 };
 
-// Wakes one thread that watches several stream queues (a decoder): each
-// queue that has the bell rings it after a push.  The watcher notes seq()
-// before it looks into its queues and waits for a change after finding them
-// empty, so a push between the two is never missed.
-class Doorbell {
- public:
-  uint64_t seq() const;
-  void ring();
-  // Waits until seq() differs from `seen` or `stop` is set (ring after
-  // setting it).
-  void wait(uint64_t seen, const std::atomic<bool>& stop);
-
- private:
-  mutable std::mutex m_;
-  std::condition_variable cv_;
-  uint64_t seq_ = 0;
-};
-
 // An unbounded (or bounded) thread-safe FIFO of byte records.
 class StreamQueue {
  public:
@@ -132,21 +114,42 @@ class StreamQueue {
   std::optional<Bytes> tryPop();
   // Waits for an item until deadline; nullopt on timeout, cancel or close.
   std::optional<Bytes> popWait(Clock::time_point deadline, CancelToken* tok = nullptr);
-  // Waits until size() >= n; false on cancel/close.
-  bool waitSize(size_t n, CancelToken* tok = nullptr);
+  // How a wait for a number of items ended.
+  enum class Wait { Ready, TimedOut, Cancelled, Closed };
+  // Sleeps the calling thread until size() >= n (Ready), the deadline, a
+  // cancel or the queue's close.  Items already there win over the rest.
+  Wait waitSize(size_t n, Clock::time_point deadline, CancelToken* tok = nullptr);
+  // Until size() >= n, without a deadline; false on cancel/close.
+  bool waitSize(size_t n, CancelToken* tok = nullptr) {
+    return waitSize(n, Clock::time_point::max(), tok) == Wait::Ready;
+  }
+  // For a waiter that is not a thread (a fiber on the event loop): `fn` runs
+  // once, on the pushing or closing thread and without the queue's lock, as
+  // soon as size() >= n or the queue is closed.  Returns 0 without keeping
+  // `fn` when that holds already; otherwise an id for unwatch().
+  uint64_t watch(size_t n, std::function<void()> fn);
+  void unwatch(uint64_t id);
   size_t size() const;
+  bool closed() const;
   void clear();
   void close();  // wakes waiters for good
-  // Rung after every push from now on (nullptr: none).
-  void setBell(std::shared_ptr<Doorbell> bell);
 
  private:
   mutable std::mutex m_;
   std::condition_variable cv_;
-  std::shared_ptr<Doorbell> bell_;
+  struct Watch {
+    uint64_t id;
+    size_t n;
+    std::function<void()> fn;
+  };
+  // The watches whose condition holds now, taken out; under m_.
+  std::vector<std::function<void()>> takeDueWatches();
+
   std::deque<Bytes> q_;
   size_t max_;
   bool closed_ = false;
+  std::vector<Watch> watches_;
+  uint64_t next_watch_ = 1;
 };
 
 class StreamPool {

@@ -40,10 +40,19 @@ class ModelOf<DeviceClass, TypeList<Modules...>> : public DeviceClass, public Mo
 
   ModelOf(bool verbose, const char* class_name)
       : DeviceClass(verbose, class_name), row_(modelInfo(class_name)) {}
+  ~ModelOf() override { closeModules(); }
   Device& device() override { return *this; }
   const ModelInfo& model() const override { return row_; }
 
+  // The device's close, then each module's threads.
+  void close(bool verbose = true) override {
+    DeviceClass::close(verbose);
+    closeModules();
+  }
+
  protected:
+  void closeModules() noexcept { (static_cast<Modules*>(this)->Modules::closeModule(), ...); }
+
   void* siblingOf(const std::type_info& type) override {
     void* found = nullptr;
     (void)((typeid(Modules) == type && (found = static_cast<Modules*>(this))) || ...);

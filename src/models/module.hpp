@@ -32,6 +32,13 @@ class ModuleBase {
   virtual Device& device() = 0;
   // The model's row of the model table (port maps, parameters, label).
   virtual const ModelInfo& model() const = 0;
+  // Ends and joins the threads the module owns (decoders, stream readers,
+  // writers).  The model's close runs it for each module, in the model's
+  // order, after the device's own close; the model's destructor runs it too,
+  // then possibly with the device still open, so a module wakes its own
+  // threads here rather than counting on the links going down.  Runs more
+  // than once; never throws.
+  virtual void closeModule() noexcept {}
   // Another module of the same model; nullptr when the model has none.
   template <class M>
   M* sibling() {

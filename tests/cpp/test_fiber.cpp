@@ -79,16 +79,15 @@ struct Call {
 
 class Fibers : public testutil::OnSimulatedDevice {
  protected:
-  // Starts echoPacketWithRetryAsync on a fiber of the loop.
-  std::unique_ptr<Call> start(int cmd, Bytes out, int retries, double timeout,
-                              CancelToken* tok = nullptr) {
+  // Starts `body` on a fiber of the loop; what it returns is the reply.
+  std::unique_ptr<Call> startBody(std::function<Bytes()> body) {
     auto c = std::make_unique<Call>();
     Call* raw = c.get();
     c->fiber = std::make_unique<Fiber>(
         loop_,
-        [this, raw, cmd, out, retries, timeout, tok] {
+        [raw, body = std::move(body)] {
           try {
-            raw->reply = dev_->echoPacketWithRetryAsync(cmd, out, retries, timeout, tok);
+            raw->reply = body();
           } catch (...) {
             raw->error = std::current_exception();
           }
@@ -96,6 +95,13 @@ class Fibers : public testutil::OnSimulatedDevice {
         [raw] { raw->done = true; });
     c->fiber->resume();
     return c;
+  }
+  // Starts echoPacketWithRetryAsync on a fiber of the loop.
+  std::unique_ptr<Call> start(int cmd, Bytes out, int retries, double timeout,
+                              CancelToken* tok = nullptr) {
+    return startBody([this, cmd, out, retries, timeout, tok] {
+      return dev_->echoPacketWithRetryAsync(cmd, out, retries, timeout, tok);
+    });
   }
   template <class E>
   static void expectError(const Call& c) {
@@ -155,6 +161,45 @@ TEST_F(Fibers, CancelAndCloseEndPendingCallsAtOnce) {
   } catch (const Error& e) {
     EXPECT_EQ(e.id(), ErrorId::DeviceClosedError);
   }
+}
+
+// Stream reads on fibers: each wait ends for its count, its deadline, its
+// cancel or the queue's close, and none holds the loop meanwhile.
+TEST_F(Fibers, QueueWaitsEndByCountDeadlineCancelOrClose) {
+  StreamQueue q, closing;
+  CancelToken tok;
+  auto wait = [](StreamQueue& queue, size_t n, double s, CancelToken* t = nullptr) {
+    return [&queue, n, s, t] {
+      const bool got = Device::waitQueue(queue, n, deadlineAfter(Clock::now(), s), t);
+      return Bytes{static_cast<uint8_t>(got), static_cast<uint8_t>(queue.size())};
+    };
+  };
+  auto three = startBody(wait(q, 3, 30));
+  auto timed = startBody(wait(q, 5, 0.1));
+  auto cancelled = startBody(wait(q, 5, 30, &tok));
+  auto closed = startBody(wait(closing, 1, 30));
+  std::thread other([&] {
+    for (uint8_t i = 0; i < 3; ++i) {
+      std::this_thread::sleep_for(20ms);
+      q.push({i});
+    }
+    tok.cancel();
+    closing.close();
+  });
+  const bool ended = loop_->runUntil(
+      [&] { return three->done && timed->done && cancelled->done && closed->done; }, 5);
+  other.join();
+  ASSERT_TRUE(ended);
+  ASSERT_FALSE(three->error);
+  EXPECT_EQ(three->reply, (Bytes{1, 3}));
+  ASSERT_FALSE(timed->error);
+  EXPECT_EQ(timed->reply[0], 0);
+  expectError<Cancelled>(*cancelled);
+  ASSERT_TRUE(closed->error);
+  EXPECT_THROW(std::rethrow_exception(closed->error), Error);
+  // The thread flavour of the same wait.
+  EXPECT_TRUE(Device::waitQueue(q, 3, Clock::now()));
+  EXPECT_FALSE(Device::waitQueue(q, 4, Clock::now() + 10ms));
 }
 
 }  // namespace
