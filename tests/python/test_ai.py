@@ -13,6 +13,7 @@ import time
 import pytest
 
 import pyorv
+import pyorv.sim as sim
 from conftest import refuses, wait_until, wire
 
 OPEN_AI, SET_AI_SAMPLING_RATE, SET_AI_MODE, SET_AI_NUM_SAMPLES = 176, 177, 178, 179
@@ -29,6 +30,14 @@ def ramp_values(start, n, channels, ratio, step=1):
         count = (count + 32768) % 65536 - 32768
         return round(count * ratio, 4)
     return [[volts(1000 * c + step * k) for c in range(channels)] for k in range(start, start + n)]
+
+
+def streaming(pair, model):
+    """pair(model), once a Wi-Fi device has taken the data link its records go on."""
+    dev, s = pair(model)
+    if s.link == sim.Link.Wifi:
+        assert s.wait_for_host(sim.Channel.Data, 5.0)
+    return dev, s
 
 
 # ---- wire bytes ----------------------------------------------------------------------
@@ -188,7 +197,7 @@ def test_enable_channel_changes_the_count_even_when_refused(pair):
 
 @pytest.mark.parametrize("model", ["PloverAin", "KestrelAin", "HeronAinPlus"])
 def test_a_stream_is_the_waveform_sample_by_sample(pair, model):
-    dev, s = pair(model)
+    dev, s = streaming(pair, model)
     s.state_set("ai.flat_out", True)
     dev.AI_open(0)
     dev.AI_setMode(0, 1)
@@ -206,7 +215,7 @@ def test_a_stream_is_the_waveform_sample_by_sample(pair, model):
 def test_every_count_decodes_as_python_rounds_it(pair):
     """All 65536 counts through the stream decoder, for both model ratios."""
     for model in ("PloverAin", "HeronAin"):
-        dev, s = pair(model)
+        dev, s = streaming(pair, model)
         s.state_set("ai.flat_out", True)
         s.state_set("ai.wave", [["ramp", -32768 + 8192 * c, 1] for c in range(8)])
         dev.AI_open(0)
@@ -277,7 +286,7 @@ def test_a_malformed_record_ends_the_decoder_and_reads_return(pair):
 
 
 def test_overflow_drops_and_warns(pair):
-    dev, s = pair("HeronAinImu")
+    dev, s = streaming(pair, "HeronAinImu")
     s.state_set("ai.flat_out", True)
     s.state_set("ai.record_samples", 4000)
     assert dev.AI_enableChannel(0, 1) == 0
