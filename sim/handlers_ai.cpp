@@ -115,8 +115,8 @@ class Wave {
   int16_t count(SimDevice& dev, uint64_t k, double rate) {
     const double t = rate > 0 ? static_cast<double>(k) / rate : 0;
     if (kind_ == "ramp")
-      return static_cast<int16_t>(static_cast<uint16_t>(static_cast<int64_t>(a_) +
-                                                        static_cast<int64_t>(b_) * k));
+      return static_cast<int16_t>(
+          static_cast<uint16_t>(static_cast<int64_t>(a_) + static_cast<int64_t>(b_) * k));
     if (kind_ == "count") return clampCount(a_);
     if (kind_ == "const") return clampCount(a_ / ratio_);
     if (kind_ == "sine") return clampCount((a_ * std::sin(2 * M_PI * b_ * t) + c_) / ratio_);
@@ -192,14 +192,14 @@ void plainStream(Context& ctx, const Request& req) {
   SimDevice& dev = ctx.device();
   stopStream(dev, port);
   const Bytes prefix{static_cast<uint8_t>(port), cs};
-  const int id = dev.startPeriodic(std::chrono::microseconds(1000000 / rate), [&dev, prefix,
-                                                                              payload] {
-    Bytes data = prefix;
-    const Bytes counter = dev.counterBytes(payload);
-    data.insert(data.end(), counter.begin(), counter.end());
-    dev.writeStream(START_AI_STREAMING, data);
-    return true;
-  });
+  const int id =
+      dev.startPeriodic(std::chrono::microseconds(1000000 / rate), [&dev, prefix, payload] {
+        Bytes data = prefix;
+        const Bytes counter = dev.counterBytes(payload);
+        data.insert(data.end(), counter.begin(), counter.end());
+        dev.writeStream(START_AI_STREAMING, data);
+        return true;
+      });
   dev.state().slot<AiSim>()->ports[port].task = id;
 }
 

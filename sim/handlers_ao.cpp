@@ -189,7 +189,8 @@ const Registrar reg{{
     {SET_AO_PUSH_TO_BUFFER,
      [](Context& c, const Request& r) {
        onPort(c, r, 3, [&](AoPort& p) {
-         for (size_t at = 3; at + 4 <= r.data.size(); at += 4) p.buffer.push_back(f32At(r.data, at));
+         for (size_t at = 3; at + 4 <= r.data.size(); at += 4)
+           p.buffer.push_back(f32At(r.data, at));
          ++p.pushes;
        });
      }},

@@ -66,7 +66,6 @@ void unpackAppend(const Bytes& b, AiSample& out) {
 
 int64_t portKey(const Value& port) { return port.asInt(); }
 
-
 std::vector<uint32_t> words(const Bytes& data_in, size_t from, size_t count, int cmd) {
   needReplyBytes(data_in, from + 4 * count, cmd);
   std::vector<uint32_t> out;
@@ -197,8 +196,7 @@ void AIModule::decodeRecord(const Bytes& raw, StreamQueue& out) {
   const size_t width = 2 * n;
   if (n == 0 || raw.size() % width != 0)
     throw IndexError("list index out of range: a stream record of " + std::to_string(raw.size()) +
-                     " bytes is no whole number of samples of " + std::to_string(n) +
-                     " channels");
+                     " bytes is no whole number of samples of " + std::to_string(n) + " channels");
   const double ratio = model().ai.ratio;
   double v[8];
   AiSample big;
@@ -526,9 +524,8 @@ AiSamples AIModule::AI_readStreaming(const Call& c, const Value& port_in, int64_
   // the count is the smallest over them.
   int64_t samp_count = 0;
   if (delay > 0 && num_samples > 0) {
-    const auto deadline =
-        Clock::now() + std::chrono::duration_cast<Clock::duration>(
-                           std::chrono::duration<double>(std::min(delay, 1e9)));
+    const auto deadline = Clock::now() + std::chrono::duration_cast<Clock::duration>(
+                                             std::chrono::duration<double>(std::min(delay, 1e9)));
     for (StreamQueue* q : queues) c.waitQueue(*q, static_cast<size_t>(num_samples), deadline);
     int64_t n_min = 2147483648;
     for (StreamQueue* q : queues) n_min = std::min(n_min, static_cast<int64_t>(q->size()));

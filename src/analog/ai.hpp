@@ -97,8 +97,7 @@ class AIModule : public ModuleBase {
   int AI_start(const Call& c, const Value& port);
   int AI_stop(const Call& c, const Value& port);
   AiSample AI_readOnDemand(const Call& c, const Value& port);
-  AiSamples AI_readStreaming(const Call& c, const Value& port, int64_t num_samples,
-                             double delay);
+  AiSamples AI_readStreaming(const Call& c, const Value& port, int64_t num_samples, double delay);
 
   // Internal operations.
   std::vector<uint32_t> AI_getCounter_(const Call& c, const Value& port);

@@ -199,10 +199,10 @@ AOModule::MaybeInt AOModule::AO_setForm(const Call& c, const Value& port, const 
   return status(c, SET_AO_FORM, Bytes{portByte(port), 0, portByte(channel), portByte(form)}, 3);
 }
 
-AOModule::MaybeInt AOModule::AO_setFormParam(const Call& c, const Value& port,
-                                             const Value& channel, const Value& amplitude,
-                                             const Value& offset, const Value& frequency,
-                                             const Value& phase, const Value& duty_cycle) {
+AOModule::MaybeInt AOModule::AO_setFormParam(const Call& c, const Value& port, const Value& channel,
+                                             const Value& amplitude, const Value& offset,
+                                             const Value& frequency, const Value& phase,
+                                             const Value& duty_cycle) {
   if (slots()) return std::nullopt;
   _checkAOPort(port);
   _checkAOChannel(channel);
@@ -255,8 +255,7 @@ std::optional<std::vector<uint32_t>> AOModule::AO_getCounters_(const Call& c, co
   return std::vector<uint32_t>{u32At(d, 1), u32At(d, 5)};
 }
 
-std::optional<std::vector<uint32_t>> AOModule::AO_initialBuffer_(const Call& c,
-                                                                  const Value& port) {
+std::optional<std::vector<uint32_t>> AOModule::AO_initialBuffer_(const Call& c, const Value& port) {
   if (slots()) return std::nullopt;
   _checkAOPort(port);
   const Bytes d = c.exchange(INIT_AO_BUFFER, Bytes{portByte(port)});

@@ -157,8 +157,8 @@ void bindAI(py::module_& m) {
       py::call_guard<py::gil_scoped_release>());
   cls.def("_AI_getPinMapPort", &A::AI_getPinMapPort_, py::arg("ai_port"),
           "The pin-map ports of an AI port.");
-  cls.def_static("_AI_changePortToIndex", &A::AI_changePortToIndex_, py::arg("port"),
-                 py::arg("cs"), "The stream index of port 0, 1 or 3 and chip select 0..2.");
+  cls.def_static("_AI_changePortToIndex", &A::AI_changePortToIndex_, py::arg("port"), py::arg("cs"),
+                 "The stream index of port 0, 1 or 3 and chip select 0..2.");
   cls.def("_checkAIPort", &A::_checkAIPort, py::arg("port"));
   cls.def_static("_checkAIMode", &A::_checkAIMode, py::arg("mode"));
   cls.def_static("_checkAIChannel", &A::_checkAIChannel, py::arg("channel"));
@@ -167,7 +167,10 @@ void bindAI(py::module_& m) {
           py::arg("sampling_rate"));
   // The decoder's own scaling of one raw count, for checks against the host.
   cls.def(
-      "_AI_decodeCount", [](A& self, int count) { return aiVolts(static_cast<int16_t>(count), self.model().ai.ratio); },
+      "_AI_decodeCount",
+      [](A& self, int count) {
+        return aiVolts(static_cast<int16_t>(count), self.model().ai.ratio);
+      },
       py::arg("count"), "The value the decoder makes of one signed 16-bit count.");
   cls.def_property_readonly("ai_dict", [](A& self) { return self.model().ai_dict; });
   cls.def_property_readonly("ai_max_rate", [](A& self) { return self.model().ai.max_rate; });

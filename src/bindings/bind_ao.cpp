@@ -61,11 +61,14 @@ void bindAO(py::module_& m) {
               {kPort},
               {kMaybeStatus, "0; None on Trellis"},
               kPortRefused});
-  defTwin(cls, &A::AO_stopStreaming_,
-          {"_AO_stopStreaming", "Stops output.", {kPort}, {kMaybeStatus, kStatusOrNone},
-           kPortRefused});
+  defTwin(
+      cls, &A::AO_stopStreaming_,
+      {"_AO_stopStreaming", "Stops output.", {kPort}, {kMaybeStatus, kStatusOrNone}, kPortRefused});
   defTwin(cls, &A::AO_closeStreaming,
-          {"AO_closeStreaming", "Closes buffered output.", {kPort}, {kMaybeStatus, kStatusOrNone},
+          {"AO_closeStreaming",
+           "Closes buffered output.",
+           {kPort},
+           {kMaybeStatus, kStatusOrNone},
            kPortRefused});
   defTwin(cls, &A::AO_getMode,
           {"AO_getMode",

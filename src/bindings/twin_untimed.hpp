@@ -49,12 +49,10 @@ void defTwins(Cls& cls, R (Module::*op)(const Call&, Args...), const Op& row, Tw
       }
     };
     if (which != Twins::AwaitableOnly && with_timeout)
-      cls.def(row.name, blocking, args..., py::arg("timeout") = row.timeout,
-              py::doc(doc.c_str()));
+      cls.def(row.name, blocking, args..., py::arg("timeout") = row.timeout, py::doc(doc.c_str()));
     if (which != Twins::AwaitableOnly && !with_timeout)
       cls.def(
-          row.name,
-          [blocking](Module& self, Args... args) { return blocking(self, args..., 3.0); },
+          row.name, [blocking](Module& self, Args... args) { return blocking(self, args..., 3.0); },
           args..., py::doc(doc.c_str()));
     if (which != Twins::BlockingOnly)
       cls.def(
