@@ -80,6 +80,7 @@ def test_operations_send_their_payloads(pair, model, echo, strm, opened):
 def test_heron_ain_starts_without_open_streaming_and_enables_no_channels(pair):
     dev, s = pair("HeronAin")
     assert dev.AI_start(0) == 0
+    assert s.wait_for_packets(1, 5.0)  # sent without a reply to wait for
     assert wire(s) == [(START_AI_STREAMING_VARIABLE, b"\x00")]
     s.clear_packets()
     refuses(s, pyorv.APINotSupportError, lambda: dev.AI_enableChannel(0, 2),
