@@ -129,6 +129,20 @@ bool isLoopbackHost(std::string_view host) {
   return host == "localhost" || (parseIPv4(host, a) && a[0] == 127);
 }
 
+std::optional<std::pair<std::string, int>> parseLoopbackPeer(std::string_view text) {
+  const size_t colon = text.rfind(':');
+  if (colon == std::string_view::npos) return std::nullopt;
+  const std::string_view host = text.substr(0, colon), digits = text.substr(colon + 1);
+  if (!isLoopbackHost(host) || digits.empty() || digits.size() > 5) return std::nullopt;
+  int port = 0;
+  for (char ch : digits) {
+    if (ch < '0' || ch > '9') return std::nullopt;
+    port = port * 10 + (ch - '0');
+  }
+  if (port < 1 || port > 65535) return std::nullopt;
+  return std::make_pair(std::string(host), port);
+}
+
 DeviceConfig normalized(DeviceConfig cfg) {
   if (cfg.driver_info.empty()) cfg.driver_info = defaultDriverInfo(cfg);
   if (cfg.ip_addr.empty()) cfg.ip_addr = cfg.host == "localhost" ? "127.0.0.1" : cfg.host;
@@ -140,6 +154,11 @@ DeviceConfig normalized(DeviceConfig cfg) {
   }
   if (cfg.link != Link::Usb && cfg.host != "localhost" && !parseIPv4(cfg.host, b)) {
     throw ValueError("simulated device: host must be an IPv4 address, not '" + cfg.host + "'");
+  }
+  if (!cfg.firmware.empty() && !parseLoopbackPeer(cfg.firmware)) {
+    throw ValueError(
+        "simulated device: firmware must be a peer on loopback, \"127.x.y.z:port\", not '" +
+        cfg.firmware + "'");
   }
   return cfg;
 }

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace orv::sim {
 
@@ -30,6 +31,9 @@ struct DeviceConfig {
   std::string ip_addr;
   std::string subnet_mask = "255.255.255.0";
   std::string gateway = "127.0.0.1";
+  // "host:port" of a TCP peer on loopback that serves the device's firmware
+  // (sim/firmware_peer.hpp); empty: the built-in handlers.
+  std::string firmware;
 };
 
 // "eth", "wifi", "usb" (also accepted by parseLink, with "ethernet").
@@ -54,6 +58,9 @@ bool parseMac(std::string_view text, unsigned char out[6]);
 std::string formatIPv4(const unsigned char in[4]);
 std::string formatMac(const unsigned char in[6]);
 bool isLoopbackHost(std::string_view host);
+// "host:port" with a loopback IPv4 host (or "localhost") and a port 1..65535;
+// nullopt otherwise.
+std::optional<std::pair<std::string, int>> parseLoopbackPeer(std::string_view text);
 
 // A non-blocking IPv4 socket of `type` (SOCK_STREAM or SOCK_DGRAM) bound to
 // host:port (port 0: an ephemeral one); the bound port goes to *bound_port.

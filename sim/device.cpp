@@ -5,6 +5,7 @@
 #include <exception>
 
 #include "link/constants.hpp"
+#include "sim/firmware_peer.hpp"
 #include "sim/links.hpp"
 #include "sim/stopper.hpp"
 #include "sim/ticker.hpp"
@@ -62,12 +63,18 @@ SimDevice::SimDevice(DeviceConfig cfg)
       cmd_link_ = std::make_unique<detail::UsbLink>(usb_port_, on_packet);
       break;
   }
+  if (auto peer = parseLoopbackPeer(cfg_.firmware)) {
+    peer_ = std::make_unique<detail::FirmwarePeer>(
+        peer->first, peer->second, *stopper_,
+        [this](RawPacket&& pkt) { send(pkt.cmd, std::move(pkt.data), Channel::Auto); });
+  }
 }
 
 SimDevice::~SimDevice() { stop(); }
 
 void SimDevice::start() {
   if (started_.exchange(true)) return;
+  if (peer_) peer_->start();
   cmd_link_->start();
   if (data_link_) data_link_->start();
 }
@@ -75,6 +82,7 @@ void SimDevice::start() {
 void SimDevice::stop() {
   if (stopped_.exchange(true)) return;
   stopper_->stop();
+  if (peer_) peer_->join();
   ticker_->join();
   if (data_link_) data_link_->join();
   cmd_link_->join();
@@ -165,6 +173,10 @@ void SimDevice::setFallbackHandler(Handler handler) {
 void SimDevice::onPacket(Channel ch, RawPacket&& pkt) {
   record(ch, pkt.cmd, pkt.data);
   if (faults_.ignores(pkt.cmd)) return;
+  if (peer_) {
+    peer_->forward(pkt.cmd, pkt.data);
+    return;
+  }
   Handler h;
   {
     std::lock_guard lk(handlers_m_);

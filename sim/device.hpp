@@ -25,6 +25,7 @@ namespace orv::sim {
 namespace detail {
 class LinkEnd;
 class Stopper;
+class FirmwarePeer;
 class Ticker;
 struct UsbPort;
 }  // namespace detail
@@ -131,6 +132,7 @@ class SimDevice : public std::enable_shared_from_this<SimDevice> {
   std::unique_ptr<detail::Ticker> ticker_;
   std::unique_ptr<detail::LinkEnd> cmd_link_;
   std::unique_ptr<detail::LinkEnd> data_link_;
+  std::unique_ptr<detail::FirmwarePeer> peer_;  // set when a TCP peer serves the firmware
   std::shared_ptr<detail::UsbPort> usb_port_;
   std::atomic<bool> started_{false};
   std::atomic<bool> stopped_{false};

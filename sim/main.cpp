@@ -3,6 +3,7 @@
 //   orv-sim [--model NAME] [--link eth|wifi|usb] [--host 127.0.0.1] [--port N]
 //           [--data-port N] [--serial S] [--count K] [--discovery]
 //           [--discovery-port N] [--reply-port N] [--allow-external]
+//           [--firmware 127.0.0.1:PORT]
 //
 // --port and --data-port give the first device's ports (0: ephemeral); the
 // following devices take the next ones.  One line per device says how to
@@ -23,7 +24,8 @@ void usage(FILE* out) {
   std::fputs(
       "usage: orv-sim [--model NAME] [--link eth|wifi|usb] [--host ADDR] [--port N]\n"
       "               [--data-port N] [--serial S] [--count K] [--discovery]\n"
-      "               [--discovery-port N] [--reply-port N] [--allow-external]\n",
+      "               [--discovery-port N] [--reply-port N] [--allow-external]\n"
+      "               [--firmware 127.0.0.1:PORT]\n",
       out);
 }
 
@@ -43,6 +45,7 @@ int main(int argc, char** argv) {
   Link link = Link::Ethernet;
   std::string host = "127.0.0.1";
   std::string serial;
+  std::string firmware;  // a TCP peer on loopback that answers for every device
   int port = 0, data_port = 0, count = 1;
   int discovery_port = orv::UDP_SEND_PORT, reply_port = orv::UDP_RECV_PORT;
   bool discovery = false, allow_external = false;
@@ -90,6 +93,8 @@ int main(int argc, char** argv) {
       discovery_port = number(0, 65535);
     } else if (a == "--reply-port") {
       reply_port = number(0, 65535);
+    } else if (a == "--firmware") {
+      firmware = value();
     } else if (a == "--allow-external") {
       allow_external = true;
     } else if (a == "-h" || a == "--help") {
@@ -121,6 +126,7 @@ int main(int argc, char** argv) {
     for (int i = 0; i < count; ++i) {
       DeviceConfig cfg = numberedConfig(model, link, i + 1);
       cfg.host = host;
+      cfg.firmware = firmware;
       if (!serial.empty()) cfg.serial = count == 1 ? serial : serial + std::to_string(i + 1);
       if (port) cfg.cmd_port = port + (link == Link::Wifi ? 2 * i : i);
       if (link == Link::Wifi) {

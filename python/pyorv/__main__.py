@@ -180,6 +180,7 @@ def cmd_sim(args):
         for i, model in enumerate(args.model, start=1):
             cfg = sim.numbered_config(model, link, i)
             cfg.host = args.host
+            cfg.firmware = args.firmware
             dev = simulator.add_device(cfg)
             if args.link == "eth":
                 where = f"{dev.host} cmd_port={dev.cmd_port}"
@@ -359,6 +360,9 @@ def _parser(prog="pyorv"):
     s.add_argument("--discovery-port", type=int, default=pyorv.UDP_SEND_PORT, metavar="N",
                    help=f"UDP port of discovery (default {pyorv.UDP_SEND_PORT}; 0: any free)")
     s.add_argument("--host", default="127.0.0.1", help="a loopback address (default 127.0.0.1)")
+    s.add_argument("--firmware", default="", metavar="127.0.0.1:PORT",
+                   help="a TCP server on loopback that answers for the devices (see the user "
+                        "guide, Bring your own firmware)")
     s.set_defaults(run=cmd_sim)
 
     f = sub.add_parser("find", help="discover network devices (and USB devices when listable)")

@@ -120,7 +120,7 @@ class DeviceConfig:
     model: str
     serial: str
     subnet_mask: str
-    def __init__(self, *, model: str = 'Trellis', link: typing.Any = None, serial: str = 'SIM00001', host: str = '127.0.0.1', cmd_port: typing.SupportsInt | typing.SupportsIndex = 0, data_port: typing.SupportsInt | typing.SupportsIndex = 0, driver_info: str = '', mac: str = '02:4F:52:56:00:01', ip_addr: str = '', subnet_mask: str = '255.255.255.0', gateway: str = '127.0.0.1') -> None:
+    def __init__(self, *, model: str = 'Trellis', link: typing.Any = None, serial: str = 'SIM00001', host: str = '127.0.0.1', cmd_port: typing.SupportsInt | typing.SupportsIndex = 0, data_port: typing.SupportsInt | typing.SupportsIndex = 0, driver_info: str = '', mac: str = '02:4F:52:56:00:01', ip_addr: str = '', subnet_mask: str = '255.255.255.0', gateway: str = '127.0.0.1', firmware: str = '') -> None:
         ...
     def __repr__(self) -> str:
         ...
@@ -135,6 +135,14 @@ class DeviceConfig:
         ...
     @data_port.setter
     def data_port(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def firmware(self) -> str:
+        """
+        "127.0.0.1:PORT": a TCP peer on loopback serves the firmware; empty: the built-in handlers
+        """
+    @firmware.setter
+    def firmware(self, arg0: str) -> None:
         ...
     @property
     def link(self) -> Link:

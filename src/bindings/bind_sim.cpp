@@ -122,7 +122,7 @@ DeviceConfig makeConfig(const std::string& model, const py::object& link, const 
                         const std::string& host, int cmd_port, int data_port,
                         const std::string& driver_info, const std::string& mac,
                         const std::string& ip_addr, const std::string& subnet_mask,
-                        const std::string& gateway) {
+                        const std::string& gateway, const std::string& firmware) {
   DeviceConfig c;
   c.model = model;
   c.link = link.is_none() ? linkOfModel(model) : toLink(link);
@@ -135,6 +135,7 @@ DeviceConfig makeConfig(const std::string& model, const py::object& link, const 
   c.ip_addr = ip_addr;
   c.subnet_mask = subnet_mask;
   c.gateway = gateway;
+  c.firmware = firmware;
   return c;
 }
 
@@ -176,7 +177,7 @@ void bindSim(pybind11::module_& parent) {
            py::arg("host") = "127.0.0.1", py::arg("cmd_port") = 0, py::arg("data_port") = 0,
            py::arg("driver_info") = "", py::arg("mac") = "02:4F:52:56:00:01",
            py::arg("ip_addr") = "", py::arg("subnet_mask") = "255.255.255.0",
-           py::arg("gateway") = "127.0.0.1")
+           py::arg("gateway") = "127.0.0.1", py::arg("firmware") = "")
       .def_readwrite("model", &DeviceConfig::model)
       .def_property(
           "link", [](const DeviceConfig& c) { return c.link; },
@@ -190,6 +191,9 @@ void bindSim(pybind11::module_& parent) {
       .def_readwrite("ip_addr", &DeviceConfig::ip_addr)
       .def_readwrite("subnet_mask", &DeviceConfig::subnet_mask)
       .def_readwrite("gateway", &DeviceConfig::gateway)
+      .def_readwrite("firmware", &DeviceConfig::firmware,
+                     "\"127.0.0.1:PORT\": a TCP peer on loopback serves the firmware; "
+                     "empty: the built-in handlers")
       .def("__repr__", &configRepr);
 
   py::class_<Faults> faults(m, "Faults", "Faults a simulated device injects into its answers.");

@@ -193,6 +193,8 @@ py::object exceptionObject(std::exception_ptr p) {
     return builtin("ValueError")(e.what());
   } catch (const IndexError& e) {
     return builtin("IndexError")(e.what());
+  } catch (const KeyError& e) {
+    return builtin("KeyError")(e.what());
   } catch (const OSError& e) {
     return builtin("OSError")(e.err(), e.what());
   } catch (const GateAlreadyOpen& e) {

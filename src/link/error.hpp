@@ -82,6 +82,10 @@ class ValueError : public std::runtime_error {
 class IndexError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
+// A key that a map of the model does not hold; what() is the key's repr.
+class KeyError : public std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
 class OSError : public std::runtime_error {
  public:
   OSError(int err, const std::string& what);

@@ -71,6 +71,7 @@ std::string className(const std::exception& e) {
   if (dynamic_cast<const TypeError*>(&e)) return "TypeError";
   if (dynamic_cast<const ValueError*>(&e)) return "ValueError";
   if (dynamic_cast<const IndexError*>(&e)) return "IndexError";
+  if (dynamic_cast<const KeyError*>(&e)) return "KeyError";
   if (dynamic_cast<const OSError*>(&e)) return "OSError";
   int status = 0;
   const char* mangled = typeid(e).name();
