@@ -317,7 +317,7 @@ int64_t AIModule::AI_changePortToIndex_(int64_t port, int64_t cs) {
 std::vector<int> AIModule::AI_getPinMapPort_(const Value& ai_port) {
   checkInputType(ai_port, kTypeInt);
   auto it = model().ai_dict.find(static_cast<int>(portKey(ai_port)));
-  if (it == model().ai_dict.end()) throw IndexError("KeyError: " + ai_port.repr());
+  if (it == model().ai_dict.end()) throw KeyError(ai_port.repr());
   std::vector<int> out;
   for (const PinPair& p : it->second)
     if (std::find(out.begin(), out.end(), p.port) == out.end()) out.push_back(p.port);

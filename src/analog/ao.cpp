@@ -63,7 +63,7 @@ bool AOModule::_checkAONumOfValues(const Value& value) {
 std::vector<int> AOModule::AO_getPinMapPort_(const Value& ao_port) {
   checkInputType(ao_port, kTypeInt);
   auto it = model().ao_dict.find(static_cast<int>(ao_port.asInt()));
-  if (it == model().ao_dict.end()) throw IndexError("KeyError: " + ao_port.repr());
+  if (it == model().ao_dict.end()) throw KeyError(ao_port.repr());
   std::vector<int> out;
   for (const PinPair& p : it->second)
     if (std::find(out.begin(), out.end(), p.port) == out.end()) out.push_back(p.port);
