@@ -5,7 +5,7 @@ from __future__ import annotations
 import collections.abc
 import typing
 from . import _sim
-__all__: list[str] = ['AHRSModeNotAvaliableError', 'AHRSPortNotAvaliableError', 'AHRSQueueOverflowWarning', 'AHRS_START', 'AICSNotAvaliableError', 'AIChannelNotAvaliableError', 'AIModeNotAvaliableError', 'AIPortNotAvaliableError', 'AIQueueOverflowWarning', 'AIRateNotVaildError', 'AOChannelNotAvaliableError', 'AOFormNotAvaliableError', 'AOModeNotVaildError', 'AOPortNotAvaliableError', 'AORateNotVaildError', 'AOSpanNotVaildError', 'APINotSupportError', 'BROADCAST_CMD_LIST', 'BroadcastDevice', 'BroadcastModule', 'CANDataLengthNotVaildError', 'CANPortNotAvaliableError', 'CANQueueOverflowWarning', 'CANSpeedNotVaildError', 'CANTXNotVaildError', 'CANTXPriorityNotVaildError', 'CHECK_MAC_AND_REBOOT', 'CHECK_MAC_AND_SET_IP', 'CMD_CR', 'CMD_CR_2', 'CMD_INDEX', 'CMD_INDEX_2', 'CMD_LF', 'CMD_LF_2', 'CMD_STX', 'CMD_STX_2', 'CONNECTION_TIMEOUT', 'Client', 'CounterChannelNotAvaliableError', 'CounterModule', 'DIOModule', 'DIPortNotAvaliableError', 'DOPortNotAvaliableError', 'DPOTChannelNotAvaliableError', 'DPOTModule', 'DPOTPortNotAvaliableError', 'Device', 'DeviceClosedError', 'DeviceFinder', 'ECHO_DELAY', 'ETHDevice', 'Error', 'ExtLibNotFoundWarning', 'FirmwareAIError', 'FirmwareAOError', 'FirmwareBootloaderError', 'FirmwareCANError', 'FirmwareCoreError', 'FirmwareDIOError', 'FirmwareDriveError', 'FirmwareEEPROMError', 'FirmwareEnableError', 'FirmwareEncoderError', 'FirmwareHALIndexError', 'FirmwareI2CError', 'FirmwareMotionError', 'FirmwareOLEDError', 'FirmwareORVIndexError', 'FirmwareOtherError', 'FirmwarePWMError', 'FirmwareParserError', 'FirmwarePinIndexError', 'FirmwarePulseError', 'FirmwareRTCError', 'FirmwareRelayError', 'FirmwareSPIError', 'FirmwareTCPError', 'FirmwareTIMError', 'FirmwareThermalError', 'FirmwareUARTError', 'FirmwareUDPError', 'FirmwareUSBError', 'GET_DEVICE_INFO', 'GET_DRIVER_INFO', 'HANDLE_DICT', 'HANDLE_LIST', 'HeronAin', 'HeronAinImu', 'HeronAinPlus', 'I2CAddressSizeNotVaildError', 'I2CClockNotSupportError', 'I2CModule', 'I2CPortNotAvaliableError', 'IniFileExtensionNameError', 'IniFileNotFoundError', 'InputDataNotInRangeError', 'InputTypeNotConsistentError', 'InputTypeNotCorrectError', 'KestrelAin', 'KestrelAout', 'KestrelCin', 'KestrelCvin', 'KestrelDio', 'KestrelDioX', 'KestrelRelay', 'KestrelRes', 'KestrelTherm', 'LABEL_DICT', 'LinkNotOpenError', 'MOTION', 'MRDRPortNotAvaliable', 'MerlinAxis', 'MerlinDrive', 'MotionAccelerationModeError', 'MotionAxisError', 'MotionBreakPointModeError', 'MotionCaptureModeError', 'MotionCaptureTypeError', 'MotionDirectionError', 'MotionEnableError', 'MotionOperationModeError', 'MotionPolarityError', 'MotionPortNotAvaliable', 'MotionSearchDirectionError', 'MotionSearchTypeError', 'MotionStepperOutputError', 'MotionStopModeError', 'NUM_BCST_RETRIES', 'NUM_RETRIES', 'NetworkClient', 'NetworkConnectionError', 'NetworkConnectionLostError', 'NetworkDevice', 'NetworkModule', 'OPEN_CAN', 'ORVWarning', 'PACKET_TIMEOUT', 'PRODUCT_LIST', 'PWMChannelNotAvaliableError', 'PWMModule', 'PinsNotExistError', 'PinsValueNotDefineError', 'PloverAin', 'PloverAio', 'PloverCan', 'PloverDio', 'PloverRtd', 'PloverSink', 'PloverTc', 'QUEUE_SIZE_MAX', 'QUEUE_TIMEOUT', 'RETRY_TIMEOUT', 'ReceivePacketTimeoutError', 'RelayCounterIndexError', 'RelayModule', 'ReplyFormatError', 'SPIDataLengthExceedMaxError', 'SPIDataSizeNotVaildError', 'SPIFirstBitNotVaildError', 'SPIModeNotVaildError', 'SPIModule', 'SPIPortNotAvaliableError', 'SPIPrescalerNotVaildError', 'START_AI_STREAMING', 'START_AI_STREAMING_VARIABLE', 'START_AO_STREAMING', 'START_CAN', 'START_MOTION_MONITORING', 'START_UART_READING', 'STREAMING_CMD_LIST', 'StreamQueue', 'SystemAnalogModule', 'SystemModule', 'TCPClient', 'TCP_CMD_PORT', 'TCP_DATA_LENGTH_MAX', 'TCP_DATA_PORT', 'TCP_PKT_LENGTH_MAX', 'ThermalChipSelectNotAvaliableError', 'ThermalModeNotVaildError', 'ThermalPortNotAvaliableError', 'ThermalTypeNotVaildError', 'Trellis', 'TrellisLite', 'TrellisPortNotAvaliableError', 'UARTBaudRateNotSupportError', 'UARTDataBitNotSupportError', 'UARTExceedMaxLengthError', 'UARTParityNotSupportError', 'UARTPortNotAvaliableError', 'UARTQueueOverflowWarning', 'UARTStopBitNotSupportError', 'UDPClient', 'UDP_PKT_LENGTH_MAX', 'UDP_RECV_PORT', 'UDP_SEND_PORT', 'USBClient', 'USBConnectionError', 'USBDevice', 'USB_61E_PLUS_PID', 'USB_61E_PLUS_VID', 'USB_61E_RECEIVE_BYTE', 'USB_61E_RECEIVE_TIMEOUT', 'USB_61E_RECEIVE_TOTAL_BYTES', 'USB_EP_IN', 'USB_EP_OUT', 'USB_PID', 'USB_PKT_SIZE', 'USB_VID', 'WifiDevice', 'WifiModule', 'adjustDataList', 'changeToTrellisPort', 'checkEachItemInRange', 'checkFirmwareError', 'checkFuncPinMap', 'checkInputType', 'checkInputTypeConsistent', 'checkPinMap', 'clearBit', 'coerce', 'convert2U8ToI16', 'convert2U8ToU16', 'convert4U8ToF32', 'convert4U8ToI32', 'convert4U8ToU32', 'convert8U8ToF64', 'convert8U8ToI64', 'convert8U8ToU64', 'convertF32To4U8', 'convertF64To8U8', 'convertI16To2U8', 'convertI32To4U8', 'convertI64To8U8', 'convertIPAddrTo4U8', 'convertIndexAndBinaryListsToInt', 'convertIndexListToInt', 'convertIntToBinaryList', 'convertIntToIndexList', 'convertMACAddrTo6U8', 'convertStrToU8List', 'convertU16To2U8', 'convertU32To4U8', 'convertU64To8U8', 'convertU8ListToStr', 'errAHRSMode', 'errAHRSPort', 'errAIChannel', 'errAIChip', 'errAIMode', 'errAIPort', 'errAIRate', 'errAOChannel', 'errAOForm', 'errAOMode', 'errAOPort', 'errAORate', 'errAOSpan', 'errAPINotSupport', 'errCANDataLength', 'errCANPort', 'errCANSpeed', 'errCANTX', 'errCANTXPriority', 'errCounterchannel', 'errDIPort', 'errDOPort', 'errDPOTChannel', 'errDPOTPort', 'errDeviceClosed', 'errFirmwareAI', 'errFirmwareAO', 'errFirmwareBootloader', 'errFirmwareCAN', 'errFirmwareCore', 'errFirmwareDIO', 'errFirmwareDrive', 'errFirmwareEEPROM', 'errFirmwareEnable', 'errFirmwareEncoder', 'errFirmwareHALIndex', 'errFirmwareI2C', 'errFirmwareMotion', 'errFirmwareOLED', 'errFirmwareORVIndex', 'errFirmwareOther', 'errFirmwarePWM', 'errFirmwareParser', 'errFirmwarePinIndex', 'errFirmwarePulse', 'errFirmwareRTC', 'errFirmwareRelay', 'errFirmwareSPI', 'errFirmwareTCP', 'errFirmwareTIM', 'errFirmwareThermal', 'errFirmwareUART', 'errFirmwareUDP', 'errFirmwareUSB', 'errI2CAddressSize', 'errI2CClock', 'errI2CPort', 'errIniFileName', 'errIniFileNotFound', 'errInputDataNotInRange', 'errInputTypeNotConsistent', 'errInputTypeNotCorrect', 'errLinkNotOpen', 'errMotionAccelerationMode', 'errMotionAxis', 'errMotionBreakPoint', 'errMotionCaptureMode', 'errMotionCaptureType', 'errMotionDirection', 'errMotionEnable', 'errMotionOperationMode', 'errMotionPolarity', 'errMotionPort', 'errMotionSearchDirection', 'errMotionSearchType', 'errMotionStepperOutput', 'errMotionStopMode', 'errNetConnection', 'errNetConnectionLost', 'errPWMchannel', 'errPacketTimeout', 'errPinsNotExist', 'errPinsValueNotDefine', 'errRelayIndex', 'errReplyFormat', 'errSPIDataLengthExceedMax', 'errSPIDataSize', 'errSPIFirstBit', 'errSPIMode', 'errSPIPort', 'errSPIPrescaler', 'errThermalChipSelect', 'errThermalMode', 'errThermalPort', 'errThermalType', 'errTrellisSlot', 'errUARTBaudRate', 'errUARTDataBit', 'errUARTExceedMaxLength', 'errUARTParity', 'errUARTPort', 'errUARTStopBit', 'errUSBConnection', 'fillBit', 'printGenericError', 'readBit', 'warnAHRSOverflow', 'warnAIOverflow', 'warnCANOverflow', 'warnLibNotFound', 'warnUARTOverflow', 'writeBit']
+__all__: list[str] = ['AHRSModeNotAvaliableError', 'AHRSPortNotAvaliableError', 'AHRSQueueOverflowWarning', 'AHRS_START', 'AI24BitModule', 'AICSNotAvaliableError', 'AIChannelNotAvaliableError', 'AIModeNotAvaliableError', 'AIModule', 'AIPortNotAvaliableError', 'AIQueueOverflowWarning', 'AIRateNotVaildError', 'AOChannelNotAvaliableError', 'AOFormNotAvaliableError', 'AOModeNotVaildError', 'AOModule', 'AOPortNotAvaliableError', 'AORateNotVaildError', 'AOSpanNotVaildError', 'APINotSupportError', 'BROADCAST_CMD_LIST', 'BroadcastDevice', 'BroadcastModule', 'CANDataLengthNotVaildError', 'CANPortNotAvaliableError', 'CANQueueOverflowWarning', 'CANSpeedNotVaildError', 'CANTXNotVaildError', 'CANTXPriorityNotVaildError', 'CHECK_MAC_AND_REBOOT', 'CHECK_MAC_AND_SET_IP', 'CMD_CR', 'CMD_CR_2', 'CMD_INDEX', 'CMD_INDEX_2', 'CMD_LF', 'CMD_LF_2', 'CMD_STX', 'CMD_STX_2', 'CONNECTION_TIMEOUT', 'Client', 'CounterChannelNotAvaliableError', 'CounterModule', 'DIOModule', 'DIPortNotAvaliableError', 'DOPortNotAvaliableError', 'DPOTChannelNotAvaliableError', 'DPOTModule', 'DPOTPortNotAvaliableError', 'Device', 'DeviceClosedError', 'DeviceFinder', 'ECHO_DELAY', 'ETHDevice', 'Error', 'ExtLibNotFoundWarning', 'FirmwareAIError', 'FirmwareAOError', 'FirmwareBootloaderError', 'FirmwareCANError', 'FirmwareCoreError', 'FirmwareDIOError', 'FirmwareDriveError', 'FirmwareEEPROMError', 'FirmwareEnableError', 'FirmwareEncoderError', 'FirmwareHALIndexError', 'FirmwareI2CError', 'FirmwareMotionError', 'FirmwareOLEDError', 'FirmwareORVIndexError', 'FirmwareOtherError', 'FirmwarePWMError', 'FirmwareParserError', 'FirmwarePinIndexError', 'FirmwarePulseError', 'FirmwareRTCError', 'FirmwareRelayError', 'FirmwareSPIError', 'FirmwareTCPError', 'FirmwareTIMError', 'FirmwareThermalError', 'FirmwareUARTError', 'FirmwareUDPError', 'FirmwareUSBError', 'GET_DEVICE_INFO', 'GET_DRIVER_INFO', 'HANDLE_DICT', 'HANDLE_LIST', 'HeronAin', 'HeronAinImu', 'HeronAinPlus', 'I2CAddressSizeNotVaildError', 'I2CClockNotSupportError', 'I2CModule', 'I2CPortNotAvaliableError', 'IniFileExtensionNameError', 'IniFileNotFoundError', 'InputDataNotInRangeError', 'InputTypeNotConsistentError', 'InputTypeNotCorrectError', 'KestrelAin', 'KestrelAout', 'KestrelCin', 'KestrelCvin', 'KestrelDio', 'KestrelDioX', 'KestrelRelay', 'KestrelRes', 'KestrelTherm', 'LABEL_DICT', 'LinkNotOpenError', 'MOTION', 'MRDRPortNotAvaliable', 'MerlinAxis', 'MerlinDrive', 'MotionAccelerationModeError', 'MotionAxisError', 'MotionBreakPointModeError', 'MotionCaptureModeError', 'MotionCaptureTypeError', 'MotionDirectionError', 'MotionEnableError', 'MotionOperationModeError', 'MotionPolarityError', 'MotionPortNotAvaliable', 'MotionSearchDirectionError', 'MotionSearchTypeError', 'MotionStepperOutputError', 'MotionStopModeError', 'NUM_BCST_RETRIES', 'NUM_RETRIES', 'NetworkClient', 'NetworkConnectionError', 'NetworkConnectionLostError', 'NetworkDevice', 'NetworkModule', 'OPEN_CAN', 'ORVWarning', 'PACKET_TIMEOUT', 'PRODUCT_LIST', 'PWMChannelNotAvaliableError', 'PWMModule', 'PinsNotExistError', 'PinsValueNotDefineError', 'PloverAin', 'PloverAio', 'PloverCan', 'PloverDio', 'PloverRtd', 'PloverSink', 'PloverTc', 'QUEUE_SIZE_MAX', 'QUEUE_TIMEOUT', 'RETRY_TIMEOUT', 'ReceivePacketTimeoutError', 'RelayCounterIndexError', 'RelayModule', 'ReplyFormatError', 'SPIDataLengthExceedMaxError', 'SPIDataSizeNotVaildError', 'SPIFirstBitNotVaildError', 'SPIModeNotVaildError', 'SPIModule', 'SPIPortNotAvaliableError', 'SPIPrescalerNotVaildError', 'START_AI_STREAMING', 'START_AI_STREAMING_VARIABLE', 'START_AO_STREAMING', 'START_CAN', 'START_MOTION_MONITORING', 'START_UART_READING', 'STREAMING_CMD_LIST', 'StreamQueue', 'SystemAnalogModule', 'SystemModule', 'TCPClient', 'TCP_CMD_PORT', 'TCP_DATA_LENGTH_MAX', 'TCP_DATA_PORT', 'TCP_PKT_LENGTH_MAX', 'ThermalChipSelectNotAvaliableError', 'ThermalModeNotVaildError', 'ThermalPortNotAvaliableError', 'ThermalTypeNotVaildError', 'Trellis', 'TrellisLite', 'TrellisPortNotAvaliableError', 'UARTBaudRateNotSupportError', 'UARTDataBitNotSupportError', 'UARTExceedMaxLengthError', 'UARTParityNotSupportError', 'UARTPortNotAvaliableError', 'UARTQueueOverflowWarning', 'UARTStopBitNotSupportError', 'UDPClient', 'UDP_PKT_LENGTH_MAX', 'UDP_RECV_PORT', 'UDP_SEND_PORT', 'USBClient', 'USBConnectionError', 'USBDevice', 'USB_61E_PLUS_PID', 'USB_61E_PLUS_VID', 'USB_61E_RECEIVE_BYTE', 'USB_61E_RECEIVE_TIMEOUT', 'USB_61E_RECEIVE_TOTAL_BYTES', 'USB_EP_IN', 'USB_EP_OUT', 'USB_PID', 'USB_PKT_SIZE', 'USB_VID', 'WifiDevice', 'WifiModule', 'adjustDataList', 'changeToTrellisPort', 'checkEachItemInRange', 'checkFirmwareError', 'checkFuncPinMap', 'checkInputType', 'checkInputTypeConsistent', 'checkPinMap', 'clearBit', 'coerce', 'convert2U8ToI16', 'convert2U8ToU16', 'convert4U8ToF32', 'convert4U8ToI32', 'convert4U8ToU32', 'convert8U8ToF64', 'convert8U8ToI64', 'convert8U8ToU64', 'convertF32To4U8', 'convertF64To8U8', 'convertI16To2U8', 'convertI32To4U8', 'convertI64To8U8', 'convertIPAddrTo4U8', 'convertIndexAndBinaryListsToInt', 'convertIndexListToInt', 'convertIntToBinaryList', 'convertIntToIndexList', 'convertMACAddrTo6U8', 'convertStrToU8List', 'convertU16To2U8', 'convertU32To4U8', 'convertU64To8U8', 'convertU8ListToStr', 'errAHRSMode', 'errAHRSPort', 'errAIChannel', 'errAIChip', 'errAIMode', 'errAIPort', 'errAIRate', 'errAOChannel', 'errAOForm', 'errAOMode', 'errAOPort', 'errAORate', 'errAOSpan', 'errAPINotSupport', 'errCANDataLength', 'errCANPort', 'errCANSpeed', 'errCANTX', 'errCANTXPriority', 'errCounterchannel', 'errDIPort', 'errDOPort', 'errDPOTChannel', 'errDPOTPort', 'errDeviceClosed', 'errFirmwareAI', 'errFirmwareAO', 'errFirmwareBootloader', 'errFirmwareCAN', 'errFirmwareCore', 'errFirmwareDIO', 'errFirmwareDrive', 'errFirmwareEEPROM', 'errFirmwareEnable', 'errFirmwareEncoder', 'errFirmwareHALIndex', 'errFirmwareI2C', 'errFirmwareMotion', 'errFirmwareOLED', 'errFirmwareORVIndex', 'errFirmwareOther', 'errFirmwarePWM', 'errFirmwareParser', 'errFirmwarePinIndex', 'errFirmwarePulse', 'errFirmwareRTC', 'errFirmwareRelay', 'errFirmwareSPI', 'errFirmwareTCP', 'errFirmwareTIM', 'errFirmwareThermal', 'errFirmwareUART', 'errFirmwareUDP', 'errFirmwareUSB', 'errI2CAddressSize', 'errI2CClock', 'errI2CPort', 'errIniFileName', 'errIniFileNotFound', 'errInputDataNotInRange', 'errInputTypeNotConsistent', 'errInputTypeNotCorrect', 'errLinkNotOpen', 'errMotionAccelerationMode', 'errMotionAxis', 'errMotionBreakPoint', 'errMotionCaptureMode', 'errMotionCaptureType', 'errMotionDirection', 'errMotionEnable', 'errMotionOperationMode', 'errMotionPolarity', 'errMotionPort', 'errMotionSearchDirection', 'errMotionSearchType', 'errMotionStepperOutput', 'errMotionStopMode', 'errNetConnection', 'errNetConnectionLost', 'errPWMchannel', 'errPacketTimeout', 'errPinsNotExist', 'errPinsValueNotDefine', 'errRelayIndex', 'errReplyFormat', 'errSPIDataLengthExceedMax', 'errSPIDataSize', 'errSPIFirstBit', 'errSPIMode', 'errSPIPort', 'errSPIPrescaler', 'errThermalChipSelect', 'errThermalMode', 'errThermalPort', 'errThermalType', 'errTrellisSlot', 'errUARTBaudRate', 'errUARTDataBit', 'errUARTExceedMaxLength', 'errUARTParity', 'errUARTPort', 'errUARTStopBit', 'errUSBConnection', 'fillBit', 'printGenericError', 'readBit', 'warnAHRSOverflow', 'warnAIOverflow', 'warnCANOverflow', 'warnLibNotFound', 'warnUARTOverflow', 'writeBit']
 class Error(Exception):
     """
     The driver's errors: each class has its fixed code and default message.
@@ -1772,6 +1772,1433 @@ class _LoopReactor:
     def _run_posted(self) -> None:
         ...
     def _run_timers(self) -> None:
+        ...
+class AI24BitModule:
+    """
+    24-bit current and voltage inputs of KestrelCin and KestrelCvin.
+    """
+    def AI_readOnDemand(self, port: int, timeout: float = 3) -> list[float]:
+        """
+        Reads the eight 24-bit inputs of a port now.
+        
+        Args:
+            port (int): 0 (current, mA) or on KestrelCvin 1 (voltage, V)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[float]: 8 values, 3 decimals: mA when the device answers for port 0, else V
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not one of the model's.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AI_readOnDemand_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[float]]:
+        """
+        Awaitable AI_readOnDemand, without timeout: Reads the eight 24-bit inputs of a port now.
+        
+        Args:
+            port (int): 0 (current, mA) or on KestrelCvin 1 (voltage, V)
+        
+        Returns:
+            list[float]: 8 values, 3 decimals: mA when the device answers for port 0, else V
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not one of the model's.
+        """
+    def _checkAI24BitPort(self, port: typing.Any) -> bool:
+        ...
+class AIModule:
+    """
+    16-bit analog inputs: on-demand reads, N-samples and continuous streams decoded by ai_stream_thread into samples of volts.
+    """
+    @staticmethod
+    def _AI_changePortToIndex(port: typing.SupportsInt | typing.SupportsIndex, cs: typing.SupportsInt | typing.SupportsIndex) -> int:
+        """
+        The stream index of port 0, 1 or 3 and chip select 0..2.
+        """
+    @staticmethod
+    def _checkAIChannel(channel: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkAIChipSelect(cs: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkAIMode(mode: typing.Any) -> bool:
+        ...
+    def AI_close(self, port: int, timeout: float = 3) -> int:
+        """
+        Closes the AI port and parks the decoder (KestrelAin and Trellis send nothing).
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis 0, 1 or 3, not the slot)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AI_close_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AI_close, without timeout: Closes the AI port and parks the decoder (KestrelAin and Trellis send nothing).
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis 0, 1 or 3, not the slot)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+        """
+    def AI_enableCS(self, slot: int, chip_select: list[int], timeout: float = 3) -> int:
+        """
+        Enables chip selects of a Trellis AI slot; samples then hold 8 values per chip.
+        
+        Args:
+            slot (int): 1, 2 or 4
+            chip_select (list[int]): chips 0..2, e.g. [0, 2]
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            APINotSupportError: on any model but Trellis.
+            InputTypeNotCorrectError: slot or a chip is not an int.
+            AIPortNotAvaliableError: slot is not 1, 2 or 4.
+            AICSNotAvaliableError: a chip is not 0, 1 or 2.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AI_enableCS_async(self, slot: int, chip_select: list[int]) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AI_enableCS, without timeout: Enables chip selects of a Trellis AI slot; samples then hold 8 values per chip.
+        
+        Args:
+            slot (int): 1, 2 or 4
+            chip_select (list[int]): chips 0..2, e.g. [0, 2]
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            APINotSupportError: on any model but Trellis.
+            InputTypeNotCorrectError: slot or a chip is not an int.
+            AIPortNotAvaliableError: slot is not 1, 2 or 4.
+            AICSNotAvaliableError: a chip is not 0, 1 or 2.
+        """
+    def AI_enableChannel(self, port: int, channel: int, timeout: float = 3) -> int:
+        """
+        Enables channels 0 to channel-1; samples then hold that many values.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis 0, 1 or 3, not the slot)
+            channel (int): how many channels, 1..8
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            APINotSupportError: on KestrelAin, Trellis, HeronAin and HeronAinPlus.
+            InputTypeNotCorrectError: port or channel is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+            AIChannelNotAvaliableError: channel is not in 1..8.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AI_enableChannel_async(self, port: int, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AI_enableChannel, without timeout: Enables channels 0 to channel-1; samples then hold that many values.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis 0, 1 or 3, not the slot)
+            channel (int): how many channels, 1..8
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            APINotSupportError: on KestrelAin, Trellis, HeronAin and HeronAinPlus.
+            InputTypeNotCorrectError: port or channel is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+            AIChannelNotAvaliableError: channel is not in 1..8.
+        """
+    def AI_getPort(self) -> list[int]:
+        """
+        The AI ports of the model (on Trellis 0, 1, 3); nothing is sent.
+        
+        Returns:
+            list[int]: the keys of ai_dict in order
+        """
+    def AI_getPort_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable AI_getPort, without timeout: The AI ports of the model (on Trellis 0, 1, 3); nothing is sent.
+        
+        Returns:
+            list[int]: the keys of ai_dict in order
+        """
+    def AI_open(self, port: int, timeout: float = 3) -> int:
+        """
+        Opens the AI port and lets the decoder run (KestrelAin and Trellis send nothing).
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis 0, 1 or 3, not the slot)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AI_open_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AI_open, without timeout: Opens the AI port and lets the decoder run (KestrelAin and Trellis send nothing).
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis 0, 1 or 3, not the slot)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+        """
+    def AI_readOnDemand(self, port: int, timeout: float = 3) -> list[float]:
+        """
+        Reads one sample now.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[float]: volts, one per channel (per enabled chip select on Trellis), 4 decimals
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AI_readOnDemand_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[float]]:
+        """
+        Awaitable AI_readOnDemand, without timeout: Reads one sample now.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+        
+        Returns:
+            list[float]: volts, one per channel (per enabled chip select on Trellis), 4 decimals
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+        """
+    def AI_readStreaming(self, port: int, num_samples: int, delay: float = 0.005) -> list[list[float]]:
+        """
+        Takes decoded samples, waiting until num_samples are there or delay passed.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+            num_samples (int): samples wanted
+            delay (float): seconds to wait for them (default 0.005)
+        
+        Returns:
+            list[list[float]]: samples, each a list of volts; fewer than asked when delay ran out
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+        """
+    def AI_readStreaming_async(self, port: int, num_samples: int, delay: float = 0.005) -> collections.abc.Coroutine[typing.Any, typing.Any, list[list[float]]]:
+        """
+        Awaitable AI_readStreaming, without timeout: Takes decoded samples, waiting until num_samples are there or delay passed.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+            num_samples (int): samples wanted
+            delay (float): seconds to wait for them (default 0.005)
+        
+        Returns:
+            list[list[float]]: samples, each a list of volts; fewer than asked when delay ran out
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+        """
+    def AI_setMode(self, port: int, mode: int, timeout: float = 3) -> int:
+        """
+        Sets the acquisition mode.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+            mode (int): 0 on demand, 1 N-samples, 2 continuous
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+            AIModeNotAvaliableError: mode is not 0, 1 or 2.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AI_setMode_async(self, port: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AI_setMode, without timeout: Sets the acquisition mode.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+            mode (int): 0 on demand, 1 N-samples, 2 continuous
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+            AIModeNotAvaliableError: mode is not 0, 1 or 2.
+        """
+    def AI_setNumSamples(self, port: int, num_samples: int, timeout: float = 3) -> int:
+        """
+        Sets how many samples mode 1 acquires.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+            num_samples (int): samples, sent as 32 bits
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: num_samples or port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AI_setNumSamples_async(self, port: int, num_samples: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AI_setNumSamples, without timeout: Sets how many samples mode 1 acquires.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+            num_samples (int): samples, sent as 32 bits
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: num_samples or port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+        """
+    def AI_setSamplingRate(self, port: int, sampling_rate: float, timeout: float = 3) -> int:
+        """
+        Sets the sampling rate of modes 1 and 2.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+            sampling_rate (float): Hz, sent as a 32-bit float
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or sampling_rate not a number.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+            AIRateNotVaildError: sampling_rate above the model's limit for its channels or chip selects.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AI_setSamplingRate_async(self, port: int, sampling_rate: float) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AI_setSamplingRate, without timeout: Sets the sampling rate of modes 1 and 2.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+            sampling_rate (float): Hz, sent as a 32-bit float
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or sampling_rate not a number.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+            AIRateNotVaildError: sampling_rate above the model's limit for its channels or chip selects.
+        """
+    def AI_start(self, port: int, timeout: float = 3) -> int:
+        """
+        Starts streaming (OPEN_AI_STREAMING first, except on HeronAin and HeronAinPlus).
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, whatever the device did
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AI_start_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AI_start, without timeout: Starts streaming (OPEN_AI_STREAMING first, except on HeronAin and HeronAinPlus).
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+        
+        Returns:
+            int: 0, whatever the device did
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+        """
+    def AI_stop(self, port: int, timeout: float = 3) -> int:
+        """
+        Stops streaming; decoded samples stay readable.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AI_stop_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AI_stop, without timeout: Stops streaming; decoded samples stay readable.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+        """
+    def _AI_clearBufferStatus(self, port: int, timeout: float = 3) -> int:
+        """
+        Clears the stream buffer status.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis 0, 1 or 3, not the slot)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _AI_clearBufferStatus_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _AI_clearBufferStatus, without timeout: Clears the stream buffer status.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis 0, 1 or 3, not the slot)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+        """
+    def _AI_decodeCount(self, count: typing.SupportsInt | typing.SupportsIndex) -> float:
+        """
+        The value the decoder makes of one signed 16-bit count.
+        """
+    def _AI_decodedSize(self, index: typing.SupportsInt | typing.SupportsIndex) -> int:
+        """
+        Samples waiting in the decoded queue at a stream index.
+        """
+    def _AI_free(self) -> None:
+        """
+        _AI_free(self) -> None
+        
+        Ends and joins the decoder thread (the model's close).
+        """
+    def _AI_getCounter(self, port: int, timeout: float = 3) -> list[int]:
+        """
+        Reads the firmware's nine AI counters (port not checked).
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: 9 unsigned 32-bit counters
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _AI_getCounter_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable _AI_getCounter, without timeout: Reads the firmware's nine AI counters (port not checked).
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+        
+        Returns:
+            list[int]: 9 unsigned 32-bit counters
+        """
+    def _AI_getPinMapPort(self, ai_port: typing.Any) -> list[int]:
+        """
+        The pin-map ports of an AI port.
+        """
+    def _AI_openStreaming(self, port: int, timeout: float = 3) -> None:
+        """
+        Sends OPEN_AI_STREAMING.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis 0, 1 or 3, not the slot)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            None: nothing
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _AI_openStreaming_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, None]:
+        """
+        Awaitable _AI_openStreaming, without timeout: Sends OPEN_AI_STREAMING.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis 0, 1 or 3, not the slot)
+        
+        Returns:
+            None: nothing
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+        """
+    def _AI_readBufferStatus(self, port: int, timeout: float = 3) -> list[int]:
+        """
+        Reads the stream buffer status.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: buffer_status: 4 unsigned 32-bit values
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _AI_readBufferStatus_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable _AI_readBufferStatus, without timeout: Reads the stream buffer status.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+        
+        Returns:
+            list[int]: buffer_status: 4 unsigned 32-bit values
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+        """
+    def _AI_startStreaming(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the start of the stream without waiting for a reply.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis 0, 1 or 3, not the slot)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _AI_startStreaming_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _AI_startStreaming, without timeout: Sends the start of the stream without waiting for a reply.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis 0, 1 or 3, not the slot)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+        """
+    def _checkAIPinState(self, port: int, allow_state: list[str], timeout: float = 3) -> bool:
+        """
+        Checks that every pin of the port is in one of the allowed modes.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis 0, 1 or 3, not the slot)
+            allow_state (list[str]): allowed pin modes, e.g. ["Idle"]
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            bool: True
+        
+        Raises, before anything is sent:
+            AIPortNotAvaliableError: a pin of the port in another mode.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _checkAIPinState_async(self, port: int, allow_state: list[str]) -> collections.abc.Coroutine[typing.Any, typing.Any, bool]:
+        """
+        Awaitable _checkAIPinState, without timeout: Checks that every pin of the port is in one of the allowed modes.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis 0, 1 or 3, not the slot)
+            allow_state (list[str]): allowed pin modes, e.g. ["Idle"]
+        
+        Returns:
+            bool: True
+        
+        Raises, before anything is sent:
+            AIPortNotAvaliableError: a pin of the port in another mode.
+        """
+    def _checkAIPort(self, port: typing.Any) -> bool:
+        ...
+    def _ckeckAISamplingRate(self, port: typing.Any, sampling_rate: typing.Any) -> bool:
+        ...
+    @property
+    def ai_decoder_alive(self) -> bool:
+        ...
+    @property
+    def ai_dict(self) -> dict[int, list[...]]:
+        ...
+    @property
+    def ai_dropped_samples(self) -> int:
+        ...
+    @property
+    def ai_echo_cmd(self) -> int:
+        ...
+    @property
+    def ai_killed(self) -> bool:
+        ...
+    @property
+    def ai_max_rate(self) -> int:
+        ...
+    @property
+    def ai_num_channels(self) -> int:
+        ...
+    @property
+    def ai_open_flag(self) -> bool:
+        ...
+    @property
+    def ai_ratio(self) -> float:
+        ...
+    @property
+    def ai_strm_cmd(self) -> int:
+        ...
+    @property
+    def chip_select_p0(self) -> list[int]:
+        ...
+    @property
+    def chip_select_p1(self) -> list[int]:
+        ...
+    @property
+    def chip_select_p3(self) -> list[int]:
+        ...
+class AOModule:
+    """
+    Analog outputs: one value at once, firmware waveforms (form and parameters), or values pushed to the device's buffer in N-samples or continuous mode.
+    """
+    @staticmethod
+    def _checkAOChannel(channel: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkAOForm(form: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkAOMode(mode: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkAONumOfValues(value: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkAOSpan(span: typing.Any) -> bool:
+        ...
+    def AO_close(self, port: int, timeout: float = 3) -> int:
+        """
+        Closes an AO port (KestrelAout and Trellis send nothing).
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AO_closeStreaming(self, port: int, timeout: float = 3) -> int | None:
+        """
+        Closes buffered output.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int | None: 0, or a negative firmware error code; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AO_closeStreaming_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int | None]:
+        """
+        Awaitable AO_closeStreaming, without timeout: Closes buffered output.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+        
+        Returns:
+            int | None: 0, or a negative firmware error code; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+        """
+    def AO_close_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AO_close, without timeout: Closes an AO port (KestrelAout and Trellis send nothing).
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+        """
+    def AO_getEnableChannels(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int | None]:
+        """
+        Awaitable AO_getEnableChannels, without timeout: Reads the enabled channels.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+        
+        Returns:
+            int | None: the enabled-channel value (bit n: channel n); None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+        """
+    def AO_getMode(self, port: int, timeout: float = 3) -> int | None:
+        """
+        Reads the generation mode.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int | None: 0 on demand, 1 N-samples, 2 continuous; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AO_getMode_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int | None]:
+        """
+        Awaitable AO_getMode, without timeout: Reads the generation mode.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+        
+        Returns:
+            int | None: 0 on demand, 1 N-samples, 2 continuous; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+        """
+    def AO_getPort(self) -> list[int]:
+        """
+        The AO ports of the model; nothing is sent.
+        
+        Returns:
+            list[int]: the keys of ao_dict in order
+        """
+    def AO_getPort_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable AO_getPort, without timeout: The AO ports of the model; nothing is sent.
+        
+        Returns:
+            list[int]: the keys of ao_dict in order
+        """
+    def AO_getState(self, port: int, timeout: float = 3) -> int | None:
+        """
+        Reads the output state.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int | None: 0 idle, 1 stand-by, 2 running; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AO_getValues(self, port: int, timeout: float = 3) -> list[float] | None:
+        """
+        Reads the values the channels output.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[float] | None: 8 volts, channel 0 first; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AO_getValues_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[float] | None]:
+        """
+        Awaitable AO_getValues, without timeout: Reads the values the channels output.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+        
+        Returns:
+            list[float] | None: 8 volts, channel 0 first; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+        """
+    def AO_open(self, port: int, timeout: float = 3) -> int:
+        """
+        Opens an AO port whose pins are idle (KestrelAout and Trellis send nothing).
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict, or a pin of it is in use (after the pin-mode read).
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AO_openStreaming(self, port: int, timeout: float = 3) -> list[int | float] | None:
+        """
+        Opens the port for buffered output and reads its mode and rate.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int | float] | None: info: [mode, sampling_rate]; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AO_openStreaming_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int | float] | None]:
+        """
+        Awaitable AO_openStreaming, without timeout: Opens the port for buffered output and reads its mode and rate.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+        
+        Returns:
+            list[int | float] | None: info: [mode, sampling_rate]; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+        """
+    def AO_open_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AO_open, without timeout: Opens an AO port whose pins are idle (KestrelAout and Trellis send nothing).
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict, or a pin of it is in use (after the pin-mode read).
+        """
+    def AO_setEnableChannels(self, port: int, channel_list: list[int], timeout: float = 3) -> int | None:
+        """
+        Enables the listed channels and disables the others.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            channel_list (list[int]): channels 0..7
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int | None: 0, or a negative firmware error code; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or channel_list not a list.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            AOChannelNotAvaliableError: a channel is not in 0..7.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AO_setEnableChannels_async(self, port: int, channel_list: list[int]) -> collections.abc.Coroutine[typing.Any, typing.Any, int | None]:
+        """
+        Awaitable AO_setEnableChannels, without timeout: Enables the listed channels and disables the others.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            channel_list (list[int]): channels 0..7
+        
+        Returns:
+            int | None: 0, or a negative firmware error code; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or channel_list not a list.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            AOChannelNotAvaliableError: a channel is not in 0..7.
+        """
+    def AO_setForm(self, port: int, channel: int, form: int, timeout: float = 3) -> int | None:
+        """
+        Sets the waveform of a channel.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            channel (int): 0..7
+            form (int): 1 rectangular, 2 triangular, 3 sine
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int | None: 0, or a negative firmware error code; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: an argument is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            AOChannelNotAvaliableError: channel is not in 0..7.
+            AOFormNotAvaliableError: form is not 1, 2 or 3 (DC, 0, is refused).
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AO_setFormParam(self, port: int, channel: int, amplitude: float, offset: float, frequency: float, phase: float = 0, duty_cycle: float = 0.5, timeout: float = 3) -> int | None:
+        """
+        Sets the waveform parameters of a channel, each sent as a 32-bit float.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            channel (int): 0..7
+            amplitude (float): volts
+            offset (float): volts
+            frequency (float): Hz
+            phase (float): phase (default 0)
+            duty_cycle (float): 0..1, for the rectangular form (default 0.5)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int | None: 0, or a negative firmware error code; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int, or a parameter not a number.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            AOChannelNotAvaliableError: channel is not in 0..7.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AO_setFormParam_async(self, port: int, channel: int, amplitude: float, offset: float, frequency: float, phase: float = 0, duty_cycle: float = 0.5) -> collections.abc.Coroutine[typing.Any, typing.Any, int | None]:
+        """
+        Awaitable AO_setFormParam, without timeout: Sets the waveform parameters of a channel, each sent as a 32-bit float.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            channel (int): 0..7
+            amplitude (float): volts
+            offset (float): volts
+            frequency (float): Hz
+            phase (float): phase (default 0)
+            duty_cycle (float): 0..1, for the rectangular form (default 0.5)
+        
+        Returns:
+            int | None: 0, or a negative firmware error code; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int, or a parameter not a number.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            AOChannelNotAvaliableError: channel is not in 0..7.
+        """
+    def AO_setForm_async(self, port: int, channel: int, form: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int | None]:
+        """
+        Awaitable AO_setForm, without timeout: Sets the waveform of a channel.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            channel (int): 0..7
+            form (int): 1 rectangular, 2 triangular, 3 sine
+        
+        Returns:
+            int | None: 0, or a negative firmware error code; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: an argument is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            AOChannelNotAvaliableError: channel is not in 0..7.
+            AOFormNotAvaliableError: form is not 1, 2 or 3 (DC, 0, is refused).
+        """
+    def AO_setMode(self, port: int, mode: int, timeout: float = 3) -> int | None:
+        """
+        Sets the generation mode.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            mode (int): 0 on demand, 1 N-samples, 2 continuous
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int | None: 0, or a negative firmware error code; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            AOModeNotVaildError: mode is not 0, 1 or 2.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AO_setMode_async(self, port: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int | None]:
+        """
+        Awaitable AO_setMode, without timeout: Sets the generation mode.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            mode (int): 0 on demand, 1 N-samples, 2 continuous
+        
+        Returns:
+            int | None: 0, or a negative firmware error code; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            AOModeNotVaildError: mode is not 0, 1 or 2.
+        """
+    def AO_setNumSamples(self, port: int, num_samples: int, timeout: float = 3) -> int | None:
+        """
+        Sets how many samples N-samples mode outputs.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            num_samples (int): samples, sent as 32 bits
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int | None: 0, or a negative firmware error code; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or num_samples is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AO_setNumSamples_async(self, port: int, num_samples: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int | None]:
+        """
+        Awaitable AO_setNumSamples, without timeout: Sets how many samples N-samples mode outputs.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            num_samples (int): samples, sent as 32 bits
+        
+        Returns:
+            int | None: 0, or a negative firmware error code; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or num_samples is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+        """
+    def AO_setSamplingRate(self, port: int, sampling_rate: float, timeout: float = 3) -> int | None:
+        """
+        Sets the output sampling rate.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            sampling_rate (float): Hz, at most ao_rate
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int | None: 0, or a negative firmware error code; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or sampling_rate not a number.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            AORateNotVaildError: sampling_rate above ao_rate.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AO_setSamplingRate_async(self, port: int, sampling_rate: float) -> collections.abc.Coroutine[typing.Any, typing.Any, int | None]:
+        """
+        Awaitable AO_setSamplingRate, without timeout: Sets the output sampling rate.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            sampling_rate (float): Hz, at most ao_rate
+        
+        Returns:
+            int | None: 0, or a negative firmware error code; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or sampling_rate not a number.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            AORateNotVaildError: sampling_rate above ao_rate.
+        """
+    def AO_startStreaming(self, port: int) -> int | None:
+        """
+        Starts output without waiting for a reply.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+        
+        Returns:
+            int | None: 0; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+        """
+    def AO_startStreaming_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int | None]:
+        """
+        Awaitable AO_startStreaming, without timeout: Starts output without waiting for a reply.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+        
+        Returns:
+            int | None: 0; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+        """
+    def AO_writeAllChannels(self, port: int, value_list: collections.abc.Sequence[float], timeout: float = 3) -> int:
+        """
+        Outputs values on all 8 channels at once (missing ones 0, extra ones dropped).
+        
+        Args:
+            port (int): AO port, a key of ao_dict (on Trellis the slot: 1, 2 or 4)
+            value_list (collections.abc.Sequence[float]): volts, channel 0 first
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or value_list not a list.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            InputDataNotInRangeError: a value outside ao_volt_min..ao_volt_max.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AO_writeAllChannels_async(self, port: int, value_list: collections.abc.Sequence[float]) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AO_writeAllChannels, without timeout: Outputs values on all 8 channels at once (missing ones 0, extra ones dropped).
+        
+        Args:
+            port (int): AO port, a key of ao_dict (on Trellis the slot: 1, 2 or 4)
+            value_list (collections.abc.Sequence[float]): volts, channel 0 first
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or value_list not a list.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            InputDataNotInRangeError: a value outside ao_volt_min..ao_volt_max.
+        """
+    def AO_writeOneChannel(self, port: int, channel: int, value: float, timeout: float = 3) -> int:
+        """
+        Outputs one value on one channel.
+        
+        Args:
+            port (int): AO port, a key of ao_dict (on Trellis the slot: 1, 2 or 4)
+            channel (int): 0..7
+            value (float): volts within ao_volt_min..ao_volt_max
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int, or value not a number.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            AOChannelNotAvaliableError: channel is not in 0..7.
+            InputDataNotInRangeError: value outside ao_volt_min..ao_volt_max.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AO_writeOneChannel_async(self, port: int, channel: int, value: float) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AO_writeOneChannel, without timeout: Outputs one value on one channel.
+        
+        Args:
+            port (int): AO port, a key of ao_dict (on Trellis the slot: 1, 2 or 4)
+            channel (int): 0..7
+            value (float): volts within ao_volt_min..ao_volt_max
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int, or value not a number.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            AOChannelNotAvaliableError: channel is not in 0..7.
+            InputDataNotInRangeError: value outside ao_volt_min..ao_volt_max.
+        """
+    def _AO_getCounters(self, port: int, timeout: float = 3) -> list[int] | None:
+        """
+        Reads the interrupt and SPI counters.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int] | None: counter_list: [interrupt counter, SPI counter]; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _AO_getCounters_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int] | None]:
+        """
+        Awaitable _AO_getCounters, without timeout: Reads the interrupt and SPI counters.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+        
+        Returns:
+            list[int] | None: counter_list: [interrupt counter, SPI counter]; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+        """
+    def _AO_getPinMapPort(self, ao_port: typing.Any) -> list[int]:
+        """
+        The pin-map ports of an AO port.
+        """
+    def _AO_initialBuffer(self, port: int, timeout: float = 3) -> list[int] | None:
+        """
+        Initialises the output buffer and reads its state.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int] | None: state: [num_of_samples, channel_mask]; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _AO_initialBuffer_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int] | None]:
+        """
+        Awaitable _AO_initialBuffer, without timeout: Initialises the output buffer and reads its state.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+        
+        Returns:
+            list[int] | None: state: [num_of_samples, channel_mask]; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+        """
+    def _AO_pushToBuffer(self, port: int, num_of_val: int, value_list: collections.abc.Sequence[float], timeout: float = 3) -> int:
+        """
+        Pushes values into the device's output buffer.
+        
+        Args:
+            port (int): AO port, a key of ao_dict (on Trellis the slot: 1, 2 or 4)
+            num_of_val (int): the count sent (13 fit; more is sent all the same)
+            value_list (collections.abc.Sequence[float]): volts, each sent as a 32-bit float
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or num_of_val is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _AO_pushToBuffer_async(self, port: int, num_of_val: int, value_list: collections.abc.Sequence[float]) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _AO_pushToBuffer, without timeout: Pushes values into the device's output buffer.
+        
+        Args:
+            port (int): AO port, a key of ao_dict (on Trellis the slot: 1, 2 or 4)
+            num_of_val (int): the count sent (13 fit; more is sent all the same)
+            value_list (collections.abc.Sequence[float]): volts, each sent as a 32-bit float
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or num_of_val is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+        """
+    def _AO_setSpan(self, port: int, span: int, timeout: float = 3) -> int | None:
+        """
+        Sets the output span.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            span (int): 0: 0..5 V, 1: 0..10 V, 2: +-5 V, 3: +-10 V, 4: +-2.5 V
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int | None: 0, or a negative firmware error code; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or span is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            AOSpanNotVaildError: span is not in 0..4.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _AO_setSpan_async(self, port: int, span: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int | None]:
+        """
+        Awaitable _AO_setSpan, without timeout: Sets the output span.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            span (int): 0: 0..5 V, 1: 0..10 V, 2: +-5 V, 3: +-10 V, 4: +-2.5 V
+        
+        Returns:
+            int | None: 0, or a negative firmware error code; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or span is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            AOSpanNotVaildError: span is not in 0..4.
+        """
+    def _AO_stopStreaming(self, port: int, timeout: float = 3) -> int | None:
+        """
+        Stops output.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int | None: 0, or a negative firmware error code; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _AO_stopStreaming_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int | None]:
+        """
+        Awaitable _AO_stopStreaming, without timeout: Stops output.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+        
+        Returns:
+            int | None: 0, or a negative firmware error code; None on Trellis
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AOPortNotAvaliableError: port is not a key of ao_dict.
+        """
+    def _checkAOPinState(self, port: int, allow_state: list[str], timeout: float = 3) -> bool:
+        """
+        Checks that every pin of the port is in one of the allowed modes.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            allow_state (list[str]): allowed pin modes, e.g. ["Idle"]
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            bool: True
+        
+        Raises, before anything is sent:
+            AOPortNotAvaliableError: a pin of the port in another mode.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _checkAOPinState_async(self, port: int, allow_state: list[str]) -> collections.abc.Coroutine[typing.Any, typing.Any, bool]:
+        """
+        Awaitable _checkAOPinState, without timeout: Checks that every pin of the port is in one of the allowed modes.
+        
+        Args:
+            port (int): AO port, a key of ao_dict
+            allow_state (list[str]): allowed pin modes, e.g. ["Idle"]
+        
+        Returns:
+            bool: True
+        
+        Raises, before anything is sent:
+            AOPortNotAvaliableError: a pin of the port in another mode.
+        """
+    def _checkAOPort(self, port: typing.Any) -> bool:
+        ...
+    def _ckeckAOSamplingRate(self, rate: typing.Any) -> bool:
+        ...
+    @property
+    def ao_channel(self) -> int:
+        ...
+    @property
+    def ao_dict(self) -> dict[int, list[...]]:
+        ...
+    @property
+    def ao_rate(self) -> int:
+        ...
+    @property
+    def ao_volt_max(self) -> int:
+        ...
+    @property
+    def ao_volt_min(self) -> int:
         ...
 class CounterModule:
     """
@@ -5410,7 +6837,7 @@ class DeviceFinder(BroadcastDevice, BroadcastModule):
     """
     def __init__(self, verbose: bool = True, broadcast_addr: str | None = None) -> None:
         ...
-class HeronAinImu(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, WifiModule):
+class HeronAinImu(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, WifiModule, AIModule):
     """
     HeronAinImu (Heron-Ain-Imu): device class WifiDevice; modules System, SystemAnalog, Network, Wifi, AI, AHRS.
     
@@ -5418,7 +6845,7 @@ class HeronAinImu(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, W
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class HeronAin(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, WifiModule):
+class HeronAin(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, WifiModule, AIModule):
     """
     HeronAin (Heron-Ain): device class WifiDevice; modules System, SystemAnalog, Network, Wifi, AI.
     
@@ -5426,7 +6853,7 @@ class HeronAin(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, Wifi
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class HeronAinPlus(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, WifiModule):
+class HeronAinPlus(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, WifiModule, AIModule):
     """
     HeronAinPlus (Heron-Ain-Plus): device class WifiDevice; modules System, SystemAnalog, Network, Wifi, AI.
     
@@ -5434,7 +6861,7 @@ class HeronAinPlus(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, 
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class Trellis(ETHDevice, SystemModule, NetworkModule, DIOModule):
+class Trellis(ETHDevice, SystemModule, NetworkModule, AIModule, AOModule, DIOModule):
     """
     Trellis (Trellis): device class ETHDevice; modules System, Network, AI, AO, DIO, MCX514.
     
@@ -5458,7 +6885,7 @@ class MerlinAxis(ETHDevice, SystemModule, NetworkModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelAin(ETHDevice, SystemModule, NetworkModule):
+class KestrelAin(ETHDevice, SystemModule, NetworkModule, AIModule):
     """
     KestrelAin (Kestrel-Ain): device class ETHDevice; modules System, Network, AI.
     
@@ -5482,7 +6909,7 @@ class KestrelDioX(ETHDevice, SystemModule, NetworkModule, DIOModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelCin(ETHDevice, SystemModule, NetworkModule):
+class KestrelCin(ETHDevice, SystemModule, NetworkModule, AI24BitModule):
     """
     KestrelCin (Kestrel-Cin): device class ETHDevice; modules System, Network, AI24Bit.
     
@@ -5490,7 +6917,7 @@ class KestrelCin(ETHDevice, SystemModule, NetworkModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelCvin(ETHDevice, SystemModule, NetworkModule):
+class KestrelCvin(ETHDevice, SystemModule, NetworkModule, AI24BitModule):
     """
     KestrelCvin (Kestrel-Cvin): device class ETHDevice; modules System, Network, AI24Bit.
     
@@ -5506,7 +6933,7 @@ class KestrelRelay(ETHDevice, SystemModule, NetworkModule, DIOModule, RelayModul
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelAout(ETHDevice, SystemModule, NetworkModule):
+class KestrelAout(ETHDevice, SystemModule, NetworkModule, AOModule):
     """
     KestrelAout (Kestrel-Aout): device class ETHDevice; modules System, Network, AO.
     
@@ -5538,7 +6965,7 @@ class PloverDio(USBDevice, SystemModule, I2CModule, SPIModule, DIOModule, Counte
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverAin(USBDevice, SystemModule, I2CModule, SPIModule, DIOModule, CounterModule, PWMModule):
+class PloverAin(USBDevice, SystemModule, I2CModule, SPIModule, AIModule, DIOModule, CounterModule, PWMModule):
     """
     PloverAin (Plover-Ain): device class USBDevice; modules System, UART, I2C, SPI, AI, DIO, Counter, PWM.
     
@@ -5570,7 +6997,7 @@ class PloverSink(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverAio(USBDevice, SystemModule, I2CModule, DIOModule, CounterModule, PWMModule):
+class PloverAio(USBDevice, SystemModule, I2CModule, AIModule, AOModule, DIOModule, CounterModule, PWMModule):
     """
     PloverAio (Plover-Aio): device class USBDevice; modules System, UART, I2C, AI, AO, DIO, Counter, PWM.
     

@@ -26,12 +26,31 @@ enum class DeviceKind { None, Usb, Ethernet, Wifi };
 // "USBDevice", "ETHDevice", "WifiDevice"; "" for None.
 const char* deviceClassName(DeviceKind kind);
 
+// How a model bounds the analog input sampling rate.
+enum class AiRateRule {
+  None,           // no limit
+  Fixed,          // AiParams::rate_limit
+  ByChannels,     // by the number of enabled channels (Plover)
+  ByChipSelects,  // by the chip selects enabled on the port (slotted)
+};
+
 // What a model gives its analog input module.
 struct AiParams {
   int max_rate = 0;       // top rate in Hz
   double ratio = 0.0;     // volts per count of a signed 16-bit value
   int num_channels = 0;   // channels per sample at start
   bool variable = false;  // the _VARIABLE commands for on-demand reads and streaming
+  // Slotted (Trellis): the user's port is a slot number, one less is the
+  // port; chip selects per port, one stream per (port, chip select).
+  bool slots = false;
+  bool open_silent = false;     // AI_open and AI_close send nothing
+  bool open_streaming = true;   // AI_start sends OPEN_AI_STREAMING first
+  bool channels_fixed = false;  // AI_enableChannel is refused
+  AiRateRule rate_rule = AiRateRule::None;
+  int rate_limit = 0;  // for AiRateRule::Fixed
+  // 24-bit inputs: how many ports (0..ai24_ports-1) the model has; 0 means
+  // the port is not checked.
+  int ai24_ports = 0;
 };
 
 // What a model gives its analog output module.
@@ -40,6 +59,10 @@ struct AoParams {
   int volt_max = 0;
   int channel = 0;  // channel count
   int rate = 0;     // top sampling rate, Hz
+  // Slotted (Trellis): the user's port is a slot number; the streaming and
+  // setting operations do nothing and return no value.
+  bool slots = false;
+  bool open_silent = false;  // AO_open and AO_close send nothing
 };
 
 struct ModelInfo {

@@ -40,19 +40,58 @@ const PortMap kPloverThermal = {{1, {{1, 5}, {2, 0}, {2, 1}, {2, 2}, {2, 3}}},
 // Analog input parameters.
 constexpr double kRatio5V = 5.0 / 32768.0;    // 0.000152587890625
 constexpr double kRatio10V = 10.0 / 32768.0;  // 0.00030517578125
-constexpr AiParams kAiHeron{
+constexpr AiParams kAiHeronImu{
     .max_rate = 10000, .ratio = kRatio5V, .num_channels = 8, .variable = true};
-constexpr AiParams kAiHeronPlus{
-    .max_rate = 20000, .ratio = kRatio5V, .num_channels = 8, .variable = true};
-constexpr AiParams kAiKestrel{
-    .max_rate = 20000, .ratio = kRatio10V, .num_channels = 8, .variable = false};
-constexpr AiParams kAiPlover{
-    .max_rate = 16000, .ratio = kRatio10V, .num_channels = 8, .variable = true};
-constexpr AiParams kAiTrellis{
-    .max_rate = 12000, .ratio = kRatio10V, .num_channels = 8, .variable = false};
+constexpr AiParams kAiHeron{.max_rate = 10000,
+                            .ratio = kRatio5V,
+                            .num_channels = 8,
+                            .variable = true,
+                            .open_streaming = false,
+                            .channels_fixed = true,
+                            .rate_rule = AiRateRule::Fixed,
+                            .rate_limit = 10000};
+constexpr AiParams kAiHeronPlus{.max_rate = 20000,
+                                .ratio = kRatio5V,
+                                .num_channels = 8,
+                                .variable = true,
+                                .open_streaming = false,
+                                .channels_fixed = true,
+                                .rate_rule = AiRateRule::Fixed,
+                                .rate_limit = 20000};
+constexpr AiParams kAiKestrel{.max_rate = 20000,
+                              .ratio = kRatio10V,
+                              .num_channels = 8,
+                              .variable = false,
+                              .open_silent = true,
+                              .channels_fixed = true,
+                              .rate_rule = AiRateRule::Fixed,
+                              .rate_limit = 20000};
+constexpr AiParams kAiPlover{.max_rate = 16000,
+                             .ratio = kRatio10V,
+                             .num_channels = 8,
+                             .variable = true,
+                             .rate_rule = AiRateRule::ByChannels};
+constexpr AiParams kAiTrellis{.max_rate = 12000,
+                              .ratio = kRatio10V,
+                              .num_channels = 8,
+                              .variable = false,
+                              .slots = true,
+                              .open_silent = true,
+                              .channels_fixed = true,
+                              .rate_rule = AiRateRule::ByChipSelects};
+// The 24-bit inputs: port 0 (current) on KestrelCin, 0 and 1 on KestrelCvin.
+constexpr AiParams kAi24Cin{.ai24_ports = 1};
+constexpr AiParams kAi24Cvin{.ai24_ports = 2};
 
 // Analog output parameters.
-constexpr AoParams kAo10V{.volt_min = -10, .volt_max = 10, .channel = 8, .rate = 15000};
+constexpr AoParams kAo10V{
+    .volt_min = -10, .volt_max = 10, .channel = 8, .rate = 15000, .open_silent = true};
+constexpr AoParams kAoTrellis{.volt_min = -10,
+                              .volt_max = 10,
+                              .channel = 8,
+                              .rate = 15000,
+                              .slots = true,
+                              .open_silent = true};
 constexpr AoParams kAoPlover{.volt_min = 0, .volt_max = 5, .channel = 8, .rate = 16000};
 
 // The device class and the module list of each model, from models/models.def.
@@ -128,7 +167,7 @@ std::vector<ModelInfo> makeTable() {
                .data_logger = true,
                .ai_dict = heron_ai,
                .ahrs_dict = {{0, {{1, 5}}}},
-               .ai = kAiHeron,
+               .ai = kAiHeronImu,
                .rtc_base_year = 2000});
   t.push_back({.class_name = "HeronAin",
                .label = "Heron-Ain",
@@ -154,7 +193,7 @@ std::vector<ModelInfo> makeTable() {
                .do_dict = trellisDigital(),
                .dio_num_pins_per_port = 12,
                .ai = kAiTrellis,
-               .ao = kAo10V,
+               .ao = kAoTrellis,
                .dio_fixed_direction = true,
                .slot_ports = true});
   // An empty class: no device, no module.
@@ -183,8 +222,10 @@ std::vector<ModelInfo> makeTable() {
                .data_logger = true,
                .di_dict = {{2, pins(0, 7)}, {3, pins(0, 7)}},
                .do_dict = {{0, pins(0, 7)}, {1, pins(0, 7)}}});
-  t.push_back({.class_name = "KestrelCin", .label = "Kestrel-Cin", .data_logger = true});
-  t.push_back({.class_name = "KestrelCvin", .label = "Kestrel-Cvin", .data_logger = true});
+  t.push_back(
+      {.class_name = "KestrelCin", .label = "Kestrel-Cin", .data_logger = true, .ai = kAi24Cin});
+  t.push_back(
+      {.class_name = "KestrelCvin", .label = "Kestrel-Cvin", .data_logger = true, .ai = kAi24Cvin});
   t.push_back({.class_name = "KestrelRelay",
                .label = "Kestrel-Relay",
                .data_logger = true,

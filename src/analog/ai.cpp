@@ -1,0 +1,553 @@
+#include "analog/ai.hpp"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstring>
+#include <set>
+#include <string>
+
+#include "digital/payload.hpp"
+#include "link/convert.hpp"
+#include "link/report.hpp"
+#include "services/system.hpp"
+
+namespace orv {
+
+// ---------------------------------------------------------------------------
+// Values.
+
+namespace {
+constexpr double kPow10[] = {1.0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9};
+}  // namespace
+
+double roundHalfEven(double x, int digits) {
+  if (!std::isfinite(x) || digits < 0 || digits > 9) return x;
+  const double a = std::fabs(x);
+  const double scale = kPow10[digits];
+  const double y = a * scale;
+  // y is within 2^-21 of the exact a * 10^digits below 2^32: away from a
+  // half the integer below or above is the same for both, and k / 10^digits
+  // is then the double nearest to the decimal.
+  if (y < 4294967296.0) {
+    const double k = std::floor(y);
+    const double frac = y - k;
+    if (std::fabs(frac - 0.5) > 1e-6) return std::copysign((frac > 0.5 ? k + 1 : k) / scale, x);
+  }
+  // Near a half: the exact decimal expansion decides (ties to even).
+  char buf[64];
+  const auto done = std::to_chars(buf, buf + sizeof buf, a, std::chars_format::fixed, digits);
+  double r = 0;
+  std::from_chars(buf, done.ptr, r);
+  return std::copysign(r, x);
+}
+
+double ai24Value(uint32_t count, int re_port) {
+  const double full = re_port == 0 ? 50.0 : 25.0;  // mA or V
+  const double v = -full + static_cast<double>(count) * full / 8388608.0;
+  return roundHalfEven(v, 3);
+}
+
+namespace {
+
+// A decoded sample travels through its queue as the bytes of its doubles.
+Bytes packSample(const double* v, size_t n) {
+  Bytes b(n * sizeof(double));
+  std::memcpy(b.data(), v, b.size());
+  return b;
+}
+
+void unpackAppend(const Bytes& b, AiSample& out) {
+  const size_t n = b.size() / sizeof(double);
+  const size_t at = out.size();
+  out.resize(at + n);
+  std::memcpy(out.data() + at, b.data(), n * sizeof(double));
+}
+
+int64_t portKey(const Value& port) { return port.asInt(); }
+
+std::vector<uint32_t> words(const Bytes& data_in, size_t from, size_t count, int cmd) {
+  needReplyBytes(data_in, from + 4 * count, cmd);
+  std::vector<uint32_t> out;
+  for (size_t i = 0; i < count; ++i)
+    out.push_back(convert4U8ToU32(std::span(data_in).subspan(from + 4 * i, 4)));
+  return out;
+}
+
+}  // namespace
+
+// ---------------------------------------------------------------------------
+// Life.
+
+uint64_t Doorbell::seq() const {
+  std::lock_guard lk(m_);
+  return seq_;
+}
+
+void Doorbell::ring() {
+  {
+    std::lock_guard lk(m_);
+    ++seq_;
+  }
+  cv_.notify_all();
+}
+
+void Doorbell::wait(uint64_t seen, const std::atomic<bool>& stop) {
+  std::unique_lock lk(m_);
+  cv_.wait(lk, [&] { return seq_ != seen || stop.load(); });
+}
+
+AIModule::AIModule() {
+  ai_lock_.close();  // held from the start: the decoder stands still
+  thread_ = std::thread([this] { decodeLoop(); });
+}
+
+AIModule::~AIModule() { closeModule(); }
+
+void AIModule::closeModule() noexcept {
+  killed_.store(true);
+  putMarkers();
+  ai_lock_.forceOpen();
+  bell_->ring();
+  std::call_once(join_once_, [this] {
+    if (thread_.joinable() && thread_.get_id() != std::this_thread::get_id()) thread_.join();
+  });
+  closeDecoded();  // a read still waiting ends with DeviceClosedError
+}
+
+void AIModule::AI_free_() { closeModule(); }
+
+AIModule::Streams& AIModule::streams() {
+  std::call_once(streams_once_, [this] {
+    StreamPool& pool = device().streamPool();
+    const int cmd = aiStrmCmd();
+    auto add = [&](int port, int cs) {
+      streams_.raw.push_back(pool.get(StreamKey::triple(cmd, port, cs)));
+      streams_.decoded.push_back(std::make_shared<StreamQueue>(QUEUE_SIZE_MAX));
+    };
+    if (model().ai.slots) {
+      for (int port : {0, 1, 3})
+        for (int cs : {0, 1, 2}) add(port, cs);
+    } else {
+      add(0, 0);
+    }
+    streams_made_.store(true);
+  });
+  return streams_;
+}
+
+void AIModule::putMarkers() {
+  // Only once the queues exist: before that no record was taken from them.
+  if (!streams_made_.load()) return;
+  for (auto& q : streams_.raw) q->push(Bytes{});
+}
+
+void AIModule::closeDecoded() {
+  if (!streams_made_.load()) return;
+  for (auto& q : streams_.decoded) q->close();
+}
+
+// ai_stream_thread: through the gate, one raw record from each raw queue,
+// decoded onto its decoded queue; when every raw queue was empty, it sleeps
+// until a record arrives (the doorbell) or the module closes.
+void AIModule::decodeLoop() {
+  try {
+    while (!killed_.load()) {
+      ai_lock_.pass(killed_);
+      if (killed_.load()) break;
+      Streams& s = streams();
+      const uint64_t seen = bell_->seq();
+      bool took = false;
+      for (size_t i = 0; i < s.raw.size(); ++i) {
+        std::optional<Bytes> rec = s.raw[i]->tryPop();
+        if (!rec) continue;
+        took = true;
+        if (rec->empty()) continue;  // a close marker
+        decodeRecord(*rec, *s.decoded[i]);
+      }
+      if (!took) sleepUntilRecord(s, seen);
+    }
+  } catch (const std::exception& e) {
+    // A malformed record ends the decoder; readers find no more samples.
+    report::print("Exception in thread ai_stream_thread:");
+    report::genericError(e);
+  }
+  decoder_alive_.store(false);
+}
+
+// Watches every raw queue for one record and sleeps until one rings.
+void AIModule::sleepUntilRecord(Streams& s, uint64_t seen) {
+  std::vector<std::pair<StreamQueue*, uint64_t>> watches;
+  bool ready = false;
+  for (auto& q : s.raw) {
+    const uint64_t id = q->watch(1, [bell = bell_] { bell->ring(); });
+    if (id == 0) {
+      ready = true;  // a record is there already
+      break;
+    }
+    watches.emplace_back(q.get(), id);
+  }
+  if (!ready) bell_->wait(seen, killed_);
+  for (auto& [q, id] : watches) q->unwatch(id);
+}
+
+void AIModule::decodeRecord(const Bytes& raw, StreamQueue& out) {
+  const auto n = static_cast<size_t>(aiNumChannels());
+  const size_t width = 2 * n;
+  if (n == 0 || raw.size() % width != 0)
+    throw IndexError("list index out of range: a stream record of " + std::to_string(raw.size()) +
+                     " bytes is no whole number of samples of " + std::to_string(n) + " channels");
+  const double ratio = model().ai.ratio;
+  double v[8];
+  AiSample big;
+  double* dst = n <= 8 ? v : (big.resize(n), big.data());
+  for (size_t at = 0; at < raw.size(); at += width) {
+    for (size_t ch = 0; ch < n; ++ch) {
+      const auto count = static_cast<int16_t>((raw[at + 2 * ch] << 8) | raw[at + 2 * ch + 1]);
+      dst[ch] = aiVolts(count, ratio);
+    }
+    if (!out.push(packSample(dst, n))) {
+      dropped_.fetch_add(1);
+      report::warning(ErrorId::AIQueueOverflowWarning);
+    }
+  }
+}
+
+// ---------------------------------------------------------------------------
+// Attributes and checks.
+
+int AIModule::aiNumChannels() const {
+  const int n = num_channels_.load();
+  return n >= 0 ? n : model().ai.num_channels;
+}
+int AIModule::aiEchoCmd() const {
+  return model().ai.variable ? READ_AI_ON_DEMAND_VARIABLE : READ_AI_ON_DEMAND;
+}
+int AIModule::aiStrmCmd() const {
+  return model().ai.variable ? START_AI_STREAMING_VARIABLE : START_AI_STREAMING;
+}
+
+std::vector<int64_t>& AIModule::chipSelectRef(int64_t port) {
+  if (port == 0) return cs_p0_;
+  if (port == 1) return cs_p1_;
+  if (port == 3) return cs_p3_;
+  throw IndexError("no chip selects for port " + std::to_string(port));
+}
+
+std::vector<int64_t> AIModule::chipSelect(int port) const {
+  std::lock_guard lk(cs_m_);
+  return const_cast<AIModule*>(this)->chipSelectRef(port);
+}
+
+size_t AIModule::decodedSize(size_t index) {
+  Streams& s = streams();
+  if (index >= s.decoded.size()) throw IndexError("list index out of range");
+  return s.decoded[index]->size();
+}
+
+Value AIModule::slotPort(const Value& port) const {
+  return model().ai.slots ? changeToTrellisPort(port) : port;
+}
+
+bool AIModule::_checkAIPort(const Value& port) {
+  checkInputType(port, kTypeInt);
+  const int64_t p = portKey(port);
+  if (p < 0 || p > 255 || !model().ai_dict.count(static_cast<int>(p)))
+    raise(ErrorId::AIPortNotAvaliableError);
+  return true;
+}
+
+bool AIModule::_checkAIMode(const Value& mode) {
+  checkInputType(mode, kTypeInt);
+  const int64_t m = mode.asInt();
+  if (m < 0 || m > 2) raise(ErrorId::AIModeNotAvaliableError);
+  return true;
+}
+
+bool AIModule::_checkAIChannel(const Value& channel) {
+  checkInputType(channel, kTypeInt);
+  const int64_t ch = channel.asInt();
+  if (ch < 1 || ch > 8) raise(ErrorId::AIChannelNotAvaliableError);
+  return true;
+}
+
+bool AIModule::_checkAIChipSelect(const Value& cs) {
+  checkInputType(cs, kTypeInt);
+  const int64_t c = cs.asInt();
+  if (c < 0 || c > 2) raise(ErrorId::AICSNotAvaliableError);
+  return true;
+}
+
+bool AIModule::_ckeckAISamplingRate(const Value& port, const Value& sampling_rate) {
+  checkInputType(sampling_rate, kTypeInt | kTypeFloat);
+  const AiParams& ai = model().ai;
+  int64_t limit = -1;
+  switch (ai.rate_rule) {
+    case AiRateRule::None:
+      return true;
+    case AiRateRule::Fixed:
+      limit = ai.rate_limit;
+      break;
+    case AiRateRule::ByChannels: {
+      static constexpr int64_t kByChannels[] = {16000, 8000, 6300, 4000, 3200, 2600, 2200, 2000};
+      const int n = aiNumChannels();
+      if (n < 1 || n > 8) throw IndexError("no rate limit for " + std::to_string(n) + " channels");
+      limit = kByChannels[n - 1];
+      break;
+    }
+    case AiRateRule::ByChipSelects: {
+      static constexpr int64_t kByChips[] = {12000, 6000, 4000};
+      const size_t n = chipSelect(static_cast<int>(portKey(port))).size();
+      if (n < 1 || n > 3)
+        throw IndexError("no rate limit for " + std::to_string(n) + " chip selects");
+      limit = kByChips[n - 1];
+      break;
+    }
+  }
+  if (compareNumbers(sampling_rate, Value(limit)) == 1) raise(ErrorId::AIRateNotVaildError);
+  return true;
+}
+
+int64_t AIModule::AI_changePortToIndex_(int64_t port, int64_t cs) {
+  if (port == 0 || port == 3) return port * 2 + cs;
+  if (port == 1) return port * 3 + cs;
+  throw IndexError("no stream index for port " + std::to_string(port));
+}
+
+std::vector<int> AIModule::AI_getPinMapPort_(const Value& ai_port) {
+  checkInputType(ai_port, kTypeInt);
+  auto it = model().ai_dict.find(static_cast<int>(portKey(ai_port)));
+  if (it == model().ai_dict.end()) throw KeyError(ai_port.repr());
+  std::vector<int> out;
+  for (const PinPair& p : it->second)
+    if (std::find(out.begin(), out.end(), p.port) == out.end()) out.push_back(p.port);
+  return out;
+}
+
+bool AIModule::_checkAIPinState(const Call& c, const Value& port, const Value& allow_state) {
+  auto* sys = sibling<SystemModule>();
+  if (!sys) raise(ErrorId::APINotSupportError);
+  const auto& pairs = model().ai_dict.at(static_cast<int>(portKey(port)));
+  for (int i : AI_getPinMapPort_(port)) {
+    const auto modes = sys->Sys_getPinModeInPort(c, Value(i));
+    Value pin_map = Value::listOf(modes);
+    for (const PinPair& p : pairs) {
+      if (p.port != i) continue;
+      if (!checkFuncPinMap(Value{p.port, p.pin}, pin_map, allow_state))
+        raise(ErrorId::AIPortNotAvaliableError);
+    }
+  }
+  return true;
+}
+
+std::vector<int> AIModule::AI_getPort() {
+  std::vector<int> out;
+  for (const auto& [port, pins] : model().ai_dict) out.push_back(port);
+  return out;
+}
+
+// ---------------------------------------------------------------------------
+// Opening and closing: the gate.
+
+int AIModule::AI_open(const Call& c, const Value& port) {
+  if (model().ai.open_silent) {
+    if (!open_flag_.exchange(true)) ai_lock_.open();
+    return 0;
+  }
+  _checkAIPort(port);
+  const int status = c.exchangeStatus(OPEN_AI, Bytes{portByte(port)}, 1);
+  if (!open_flag_.exchange(true) && status == 0) ai_lock_.open();
+  return status;
+}
+
+int AIModule::AI_close(const Call& c, const Value& port) {
+  if (model().ai.open_silent) {
+    if (open_flag_.exchange(false)) {
+      ai_lock_.close();
+      streams();
+      putMarkers();
+    }
+    return 0;
+  }
+  _checkAIPort(port);
+  const int status = c.exchangeStatus(CLOSE_AI, Bytes{portByte(port)}, 1);
+  if (open_flag_.exchange(false) && status == 0) {
+    ai_lock_.close();
+    streams();
+    putMarkers();
+  }
+  return status;
+}
+
+// ---------------------------------------------------------------------------
+// Settings.
+
+int AIModule::AI_setMode(const Call& c, const Value& port_in, const Value& mode) {
+  const Value port = slotPort(port_in);
+  _checkAIPort(port);
+  _checkAIMode(mode);
+  return c.exchangeStatus(SET_AI_MODE, Bytes{portByte(port), portByte(mode)}, 1);
+}
+
+int AIModule::AI_setNumSamples(const Call& c, const Value& port_in, const Value& num_samples) {
+  const Value port = slotPort(port_in);
+  checkInputType(num_samples, kTypeInt);
+  _checkAIPort(port);
+  Bytes out{portByte(port)};
+  const Bytes n = convertU32To4U8(num_samples);
+  out.insert(out.end(), n.begin(), n.end());
+  return c.exchangeStatus(SET_AI_NUM_SAMPLES, out, 1);
+}
+
+int AIModule::AI_setSamplingRate(const Call& c, const Value& port_in, const Value& sampling_rate) {
+  const Value port = slotPort(port_in);
+  _checkAIPort(port);
+  _ckeckAISamplingRate(port, sampling_rate);
+  Bytes out{portByte(port)};
+  appendF32(out, sampling_rate);
+  return c.exchangeStatus(SET_AI_SAMPLING_RATE, out, 1);
+}
+
+int AIModule::AI_enableChannel(const Call& c, const Value& port, const Value& channel) {
+  if (model().ai.channels_fixed) raise(ErrorId::APINotSupportError);
+  _checkAIPort(port);
+  _checkAIChannel(channel);
+  num_channels_.store(static_cast<int>(channel.asInt()));  // changed even if the command fails
+  return c.exchangeStatus(SET_AI_ENABLED_CS, Bytes{portByte(port), portByte(channel)}, 1);
+}
+
+int AIModule::AI_enableCS(const Call& c, const Value& slot, const Value& chip_select) {
+  if (!model().ai.slots) raise(ErrorId::APINotSupportError);
+  const Value port = changeToTrellisPort(slot);
+  _checkAIPort(port);
+  if (!chip_select.isSequence())
+    throw TypeError("'" + std::string(chip_select.typeName()) + "' object is not iterable");
+  std::vector<int64_t> chips;
+  for (const Value& cs : chip_select.asList()) {
+    _checkAIChipSelect(cs);
+    chips.push_back(cs.asInt());
+  }
+  int64_t mask = 0;
+  for (int64_t cs : chips) mask = writeBit(mask, cs, 1);
+  {
+    std::lock_guard lk(cs_m_);
+    chipSelectRef(portKey(port)) = chips;
+  }
+  return c.exchangeStatus(SET_AI_ENABLED_CS,
+                          Bytes{portByte(port), static_cast<uint8_t>(mask & 0xFF)}, 1);
+}
+
+// ---------------------------------------------------------------------------
+// Streaming.
+
+void AIModule::AI_openStreaming_(const Call& c, const Value& port) {
+  _checkAIPort(port);
+  const Bytes data_in = c.exchange(OPEN_AI_STREAMING, Bytes{portByte(port)});
+  // The blocking twin reads num_of_samples, sampling_rate and mode, and uses
+  // none of them; a reply too short for them fails it.
+  if (!c.isAwaitable()) needReplyBytes(data_in, 11, OPEN_AI_STREAMING);
+}
+
+int AIModule::AI_startStreaming_(const Call& c, const Value& port) {
+  _checkAIPort(port);
+  const Bytes out{portByte(port)};
+  c.send(aiStrmCmd(), out);
+  return 0;
+}
+
+int AIModule::AI_start(const Call& c, const Value& port_in) {
+  const Value port = slotPort(port_in);
+  _checkAIPort(port);
+  if (model().ai.open_streaming) AI_openStreaming_(c, port);
+  AI_startStreaming_(c, port);
+  return 0;
+}
+
+int AIModule::AI_stop(const Call& c, const Value& port_in) {
+  const Value port = slotPort(port_in);
+  _checkAIPort(port);
+  return c.exchangeStatus(CLOSE_AI_STREAMING, Bytes{portByte(port)}, 1);
+}
+
+int AIModule::AI_clearBufferStatus_(const Call& c, const Value& port) {
+  _checkAIPort(port);
+  return c.exchangeStatus(CLEAR_DATA, Bytes{portByte(port)}, 1);
+}
+
+std::vector<uint32_t> AIModule::AI_readBufferStatus_(const Call& c, const Value& port_in) {
+  const Value port = slotPort(port_in);
+  _checkAIPort(port);
+  return words(c.exchange(CHECK_BUFFER_STATUS, Bytes{portByte(port)}), 1, 4, CHECK_BUFFER_STATUS);
+}
+
+std::vector<uint32_t> AIModule::AI_getCounter_(const Call& c, const Value& port_in) {
+  const Value port = slotPort(port_in);
+  return words(c.exchange(GET_AI_COUNTERS, Bytes{portByte(port)}), 1, 9, GET_AI_COUNTERS);
+}
+
+// ---------------------------------------------------------------------------
+// Reading.
+
+AiSample AIModule::AI_readOnDemand(const Call& c, const Value& port_in) {
+  const Value port = slotPort(port_in);
+  _checkAIPort(port);
+  const auto chips = chipSelect(static_cast<int>(portKey(port)));
+  const int cmd = aiEchoCmd();
+  const auto n = static_cast<size_t>(aiNumChannels());
+  const double ratio = model().ai.ratio;
+  AiSample out;
+  for (int64_t cs : chips) {
+    Bytes payload{portByte(port)};
+    if (cmd == READ_AI_ON_DEMAND) payload.push_back(static_cast<uint8_t>(cs));
+    const Bytes data_in = c.exchange(cmd, payload);
+    needReplyBytes(data_in, 2 + 2 * n, cmd);
+    for (size_t i = 0; i < n; ++i) {
+      const auto count = static_cast<int16_t>((data_in[2 + 2 * i] << 8) | data_in[3 + 2 * i]);
+      out.push_back(aiVolts(count, ratio));
+    }
+  }
+  return out;
+}
+
+AiSamples AIModule::AI_readStreaming(const Call& c, const Value& port_in, int64_t num_samples,
+                                     double delay) {
+  const Value port = slotPort(port_in);
+  _checkAIPort(port);
+  const int64_t p = portKey(port);
+  const auto chips = chipSelect(static_cast<int>(p));
+  Streams& s = streams();
+  std::vector<StreamQueue*> queues;
+  for (int64_t cs : chips)
+    queues.push_back(s.decoded.at(static_cast<size_t>(AI_changePortToIndex_(p, cs))).get());
+
+  // Until every enabled chip select has num_samples, or delay has passed;
+  // the count is the smallest over them.
+  int64_t samp_count = 0;
+  if (delay > 0 && num_samples > 0) {
+    const auto deadline = Clock::now() + std::chrono::duration_cast<Clock::duration>(
+                                             std::chrono::duration<double>(std::min(delay, 1e9)));
+    for (StreamQueue* q : queues) c.waitQueue(*q, static_cast<size_t>(num_samples), deadline);
+    int64_t n_min = 2147483648;
+    for (StreamQueue* q : queues) n_min = std::min(n_min, static_cast<int64_t>(q->size()));
+    samp_count = n_min;
+  }
+  const int64_t take = std::min(num_samples, samp_count);
+  AiSamples out;
+  for (int64_t i = 0; i < take; ++i) {
+    AiSample sample;
+    for (StreamQueue* q : queues) {
+      std::optional<Bytes> item = q->tryPop();
+      // Another reader took it meanwhile: the blocking twin waits for the
+      // next, the awaitable one takes what is there.
+      while (!item && !c.isAwaitable()) {
+        c.waitQueue(*q, 1, Clock::time_point::max());
+        item = q->tryPop();
+      }
+      if (item) unpackAppend(*item, sample);
+    }
+    out.push_back(std::move(sample));
+  }
+  return out;
+}
+
+}  // namespace orv
