@@ -5,7 +5,7 @@ from __future__ import annotations
 import collections.abc
 import typing
 from . import _sim
-__all__: list[str] = ['AHRSModeNotAvaliableError', 'AHRSPortNotAvaliableError', 'AHRSQueueOverflowWarning', 'AHRS_START', 'AI24BitModule', 'AICSNotAvaliableError', 'AIChannelNotAvaliableError', 'AIModeNotAvaliableError', 'AIModule', 'AIPortNotAvaliableError', 'AIQueueOverflowWarning', 'AIRateNotVaildError', 'AOChannelNotAvaliableError', 'AOFormNotAvaliableError', 'AOModeNotVaildError', 'AOModule', 'AOPortNotAvaliableError', 'AORateNotVaildError', 'AOSpanNotVaildError', 'APINotSupportError', 'BROADCAST_CMD_LIST', 'BroadcastDevice', 'BroadcastModule', 'CANDataLengthNotVaildError', 'CANPortNotAvaliableError', 'CANQueueOverflowWarning', 'CANSpeedNotVaildError', 'CANTXNotVaildError', 'CANTXPriorityNotVaildError', 'CHECK_MAC_AND_REBOOT', 'CHECK_MAC_AND_SET_IP', 'CMD_CR', 'CMD_CR_2', 'CMD_INDEX', 'CMD_INDEX_2', 'CMD_LF', 'CMD_LF_2', 'CMD_STX', 'CMD_STX_2', 'CONNECTION_TIMEOUT', 'Client', 'CounterChannelNotAvaliableError', 'CounterModule', 'DIOModule', 'DIPortNotAvaliableError', 'DOPortNotAvaliableError', 'DPOTChannelNotAvaliableError', 'DPOTModule', 'DPOTPortNotAvaliableError', 'Device', 'DeviceClosedError', 'DeviceFinder', 'ECHO_DELAY', 'ETHDevice', 'Error', 'ExtLibNotFoundWarning', 'FirmwareAIError', 'FirmwareAOError', 'FirmwareBootloaderError', 'FirmwareCANError', 'FirmwareCoreError', 'FirmwareDIOError', 'FirmwareDriveError', 'FirmwareEEPROMError', 'FirmwareEnableError', 'FirmwareEncoderError', 'FirmwareHALIndexError', 'FirmwareI2CError', 'FirmwareMotionError', 'FirmwareOLEDError', 'FirmwareORVIndexError', 'FirmwareOtherError', 'FirmwarePWMError', 'FirmwareParserError', 'FirmwarePinIndexError', 'FirmwarePulseError', 'FirmwareRTCError', 'FirmwareRelayError', 'FirmwareSPIError', 'FirmwareTCPError', 'FirmwareTIMError', 'FirmwareThermalError', 'FirmwareUARTError', 'FirmwareUDPError', 'FirmwareUSBError', 'GET_DEVICE_INFO', 'GET_DRIVER_INFO', 'HANDLE_DICT', 'HANDLE_LIST', 'HeronAin', 'HeronAinImu', 'HeronAinPlus', 'I2CAddressSizeNotVaildError', 'I2CClockNotSupportError', 'I2CModule', 'I2CPortNotAvaliableError', 'IniFileExtensionNameError', 'IniFileNotFoundError', 'InputDataNotInRangeError', 'InputTypeNotConsistentError', 'InputTypeNotCorrectError', 'KestrelAin', 'KestrelAout', 'KestrelCin', 'KestrelCvin', 'KestrelDio', 'KestrelDioX', 'KestrelRelay', 'KestrelRes', 'KestrelTherm', 'LABEL_DICT', 'LinkNotOpenError', 'MOTION', 'MRDRPortNotAvaliable', 'MerlinAxis', 'MerlinDrive', 'MotionAccelerationModeError', 'MotionAxisError', 'MotionBreakPointModeError', 'MotionCaptureModeError', 'MotionCaptureTypeError', 'MotionDirectionError', 'MotionEnableError', 'MotionOperationModeError', 'MotionPolarityError', 'MotionPortNotAvaliable', 'MotionSearchDirectionError', 'MotionSearchTypeError', 'MotionStepperOutputError', 'MotionStopModeError', 'NUM_BCST_RETRIES', 'NUM_RETRIES', 'NetworkClient', 'NetworkConnectionError', 'NetworkConnectionLostError', 'NetworkDevice', 'NetworkModule', 'OPEN_CAN', 'ORVWarning', 'PACKET_TIMEOUT', 'PRODUCT_LIST', 'PWMChannelNotAvaliableError', 'PWMModule', 'PinsNotExistError', 'PinsValueNotDefineError', 'PloverAin', 'PloverAio', 'PloverCan', 'PloverDio', 'PloverRtd', 'PloverSink', 'PloverTc', 'QUEUE_SIZE_MAX', 'QUEUE_TIMEOUT', 'RETRY_TIMEOUT', 'ReceivePacketTimeoutError', 'RelayCounterIndexError', 'RelayModule', 'ReplyFormatError', 'SPIDataLengthExceedMaxError', 'SPIDataSizeNotVaildError', 'SPIFirstBitNotVaildError', 'SPIModeNotVaildError', 'SPIModule', 'SPIPortNotAvaliableError', 'SPIPrescalerNotVaildError', 'START_AI_STREAMING', 'START_AI_STREAMING_VARIABLE', 'START_AO_STREAMING', 'START_CAN', 'START_MOTION_MONITORING', 'START_UART_READING', 'STREAMING_CMD_LIST', 'StreamQueue', 'SystemAnalogModule', 'SystemModule', 'TCPClient', 'TCP_CMD_PORT', 'TCP_DATA_LENGTH_MAX', 'TCP_DATA_PORT', 'TCP_PKT_LENGTH_MAX', 'ThermalChipSelectNotAvaliableError', 'ThermalModeNotVaildError', 'ThermalPortNotAvaliableError', 'ThermalTypeNotVaildError', 'Trellis', 'TrellisLite', 'TrellisPortNotAvaliableError', 'UARTBaudRateNotSupportError', 'UARTDataBitNotSupportError', 'UARTExceedMaxLengthError', 'UARTParityNotSupportError', 'UARTPortNotAvaliableError', 'UARTQueueOverflowWarning', 'UARTStopBitNotSupportError', 'UDPClient', 'UDP_PKT_LENGTH_MAX', 'UDP_RECV_PORT', 'UDP_SEND_PORT', 'USBClient', 'USBConnectionError', 'USBDevice', 'USB_61E_PLUS_PID', 'USB_61E_PLUS_VID', 'USB_61E_RECEIVE_BYTE', 'USB_61E_RECEIVE_TIMEOUT', 'USB_61E_RECEIVE_TOTAL_BYTES', 'USB_EP_IN', 'USB_EP_OUT', 'USB_PID', 'USB_PKT_SIZE', 'USB_VID', 'WifiDevice', 'WifiModule', 'adjustDataList', 'changeToTrellisPort', 'checkEachItemInRange', 'checkFirmwareError', 'checkFuncPinMap', 'checkInputType', 'checkInputTypeConsistent', 'checkPinMap', 'clearBit', 'coerce', 'convert2U8ToI16', 'convert2U8ToU16', 'convert4U8ToF32', 'convert4U8ToI32', 'convert4U8ToU32', 'convert8U8ToF64', 'convert8U8ToI64', 'convert8U8ToU64', 'convertF32To4U8', 'convertF64To8U8', 'convertI16To2U8', 'convertI32To4U8', 'convertI64To8U8', 'convertIPAddrTo4U8', 'convertIndexAndBinaryListsToInt', 'convertIndexListToInt', 'convertIntToBinaryList', 'convertIntToIndexList', 'convertMACAddrTo6U8', 'convertStrToU8List', 'convertU16To2U8', 'convertU32To4U8', 'convertU64To8U8', 'convertU8ListToStr', 'errAHRSMode', 'errAHRSPort', 'errAIChannel', 'errAIChip', 'errAIMode', 'errAIPort', 'errAIRate', 'errAOChannel', 'errAOForm', 'errAOMode', 'errAOPort', 'errAORate', 'errAOSpan', 'errAPINotSupport', 'errCANDataLength', 'errCANPort', 'errCANSpeed', 'errCANTX', 'errCANTXPriority', 'errCounterchannel', 'errDIPort', 'errDOPort', 'errDPOTChannel', 'errDPOTPort', 'errDeviceClosed', 'errFirmwareAI', 'errFirmwareAO', 'errFirmwareBootloader', 'errFirmwareCAN', 'errFirmwareCore', 'errFirmwareDIO', 'errFirmwareDrive', 'errFirmwareEEPROM', 'errFirmwareEnable', 'errFirmwareEncoder', 'errFirmwareHALIndex', 'errFirmwareI2C', 'errFirmwareMotion', 'errFirmwareOLED', 'errFirmwareORVIndex', 'errFirmwareOther', 'errFirmwarePWM', 'errFirmwareParser', 'errFirmwarePinIndex', 'errFirmwarePulse', 'errFirmwareRTC', 'errFirmwareRelay', 'errFirmwareSPI', 'errFirmwareTCP', 'errFirmwareTIM', 'errFirmwareThermal', 'errFirmwareUART', 'errFirmwareUDP', 'errFirmwareUSB', 'errI2CAddressSize', 'errI2CClock', 'errI2CPort', 'errIniFileName', 'errIniFileNotFound', 'errInputDataNotInRange', 'errInputTypeNotConsistent', 'errInputTypeNotCorrect', 'errLinkNotOpen', 'errMotionAccelerationMode', 'errMotionAxis', 'errMotionBreakPoint', 'errMotionCaptureMode', 'errMotionCaptureType', 'errMotionDirection', 'errMotionEnable', 'errMotionOperationMode', 'errMotionPolarity', 'errMotionPort', 'errMotionSearchDirection', 'errMotionSearchType', 'errMotionStepperOutput', 'errMotionStopMode', 'errNetConnection', 'errNetConnectionLost', 'errPWMchannel', 'errPacketTimeout', 'errPinsNotExist', 'errPinsValueNotDefine', 'errRelayIndex', 'errReplyFormat', 'errSPIDataLengthExceedMax', 'errSPIDataSize', 'errSPIFirstBit', 'errSPIMode', 'errSPIPort', 'errSPIPrescaler', 'errThermalChipSelect', 'errThermalMode', 'errThermalPort', 'errThermalType', 'errTrellisSlot', 'errUARTBaudRate', 'errUARTDataBit', 'errUARTExceedMaxLength', 'errUARTParity', 'errUARTPort', 'errUARTStopBit', 'errUSBConnection', 'fillBit', 'printGenericError', 'readBit', 'warnAHRSOverflow', 'warnAIOverflow', 'warnCANOverflow', 'warnLibNotFound', 'warnUARTOverflow', 'writeBit']
+__all__: list[str] = ['AHRSModeNotAvaliableError', 'AHRSModule', 'AHRSPortNotAvaliableError', 'AHRSQueueOverflowWarning', 'AHRS_START', 'AI24BitModule', 'AICSNotAvaliableError', 'AIChannelNotAvaliableError', 'AIModeNotAvaliableError', 'AIModule', 'AIPortNotAvaliableError', 'AIQueueOverflowWarning', 'AIRateNotVaildError', 'AOChannelNotAvaliableError', 'AOFormNotAvaliableError', 'AOModeNotVaildError', 'AOModule', 'AOPortNotAvaliableError', 'AORateNotVaildError', 'AOSpanNotVaildError', 'APINotSupportError', 'BROADCAST_CMD_LIST', 'BroadcastDevice', 'BroadcastModule', 'CANDataLengthNotVaildError', 'CANFrame', 'CANModule', 'CANPortNotAvaliableError', 'CANQueueOverflowWarning', 'CANSpeedNotVaildError', 'CANTXNotVaildError', 'CANTXPriorityNotVaildError', 'CHECK_CALCULATUON', 'CHECK_MAC_AND_REBOOT', 'CHECK_MAC_AND_SET_IP', 'CMD_CR', 'CMD_CR_2', 'CMD_INDEX', 'CMD_INDEX_2', 'CMD_LF', 'CMD_LF_2', 'CMD_STX', 'CMD_STX_2', 'CONNECTION_TIMEOUT', 'Client', 'CounterChannelNotAvaliableError', 'CounterModule', 'DIOModule', 'DIPortNotAvaliableError', 'DOPortNotAvaliableError', 'DPOTChannelNotAvaliableError', 'DPOTModule', 'DPOTPortNotAvaliableError', 'DataLogger', 'Device', 'DeviceClosedError', 'DeviceFinder', 'ECHO_DELAY', 'ETHDevice', 'Error', 'ExtLibNotFoundWarning', 'FirmwareAIError', 'FirmwareAOError', 'FirmwareBootloaderError', 'FirmwareCANError', 'FirmwareCoreError', 'FirmwareDIOError', 'FirmwareDriveError', 'FirmwareEEPROMError', 'FirmwareEnableError', 'FirmwareEncoderError', 'FirmwareHALIndexError', 'FirmwareI2CError', 'FirmwareMotionError', 'FirmwareOLEDError', 'FirmwareORVIndexError', 'FirmwareOtherError', 'FirmwarePWMError', 'FirmwareParserError', 'FirmwarePinIndexError', 'FirmwarePulseError', 'FirmwareRTCError', 'FirmwareRelayError', 'FirmwareSPIError', 'FirmwareTCPError', 'FirmwareTIMError', 'FirmwareThermalError', 'FirmwareUARTError', 'FirmwareUDPError', 'FirmwareUSBError', 'GET_DEVICE_INFO', 'GET_DRIVER_INFO', 'HANDLE_DICT', 'HANDLE_LIST', 'HeronAin', 'HeronAinImu', 'HeronAinPlus', 'I2CAddressSizeNotVaildError', 'I2CClockNotSupportError', 'I2CModule', 'I2CPortNotAvaliableError', 'IniFileExtensionNameError', 'IniFileNotFoundError', 'InputDataNotInRangeError', 'InputTypeNotConsistentError', 'InputTypeNotCorrectError', 'KestrelAin', 'KestrelAout', 'KestrelCin', 'KestrelCvin', 'KestrelDio', 'KestrelDioX', 'KestrelRelay', 'KestrelRes', 'KestrelTherm', 'LABEL_DICT', 'LinkNotOpenError', 'MCX514Driver', 'MCX514Module', 'MOTION', 'MOTION_00_JK', 'MOTION_01_DJ', 'MOTION_02_AC', 'MOTION_03_DC', 'MOTION_04_SV', 'MOTION_05_DV', 'MOTION_06_TP', 'MOTION_07_DP', 'MOTION_08_CP', 'MOTION_09_LP', 'MOTION_0A_RP', 'MOTION_0B_SP', 'MOTION_0C_SM', 'MOTION_0D_AO', 'MOTION_0E_LX', 'MOTION_0F_RX', 'MOTION_10_MR0', 'MOTION_11_MR1', 'MOTION_12_MR2', 'MOTION_13_MR3', 'MOTION_14_HV', 'MOTION_15_IV', 'MOTION_16_TM', 'MOTION_17_SP1', 'MOTION_18_SP2', 'MOTION_19_TX', 'MOTION_1A_HLN', 'MOTION_1B_HLV', 'MOTION_1C_GPIO', 'MOTION_1F_NOP', 'MOTION_20_MRM', 'MOTION_21_P1M', 'MOTION_22_P2M', 'MOTION_23_H1M', 'MOTION_24_H2M', 'MOTION_25_FLM', 'MOTION_26_S0M', 'MOTION_27_S1M', 'MOTION_28_S2M', 'MOTION_29_S3M', 'MOTION_2A_IPM', 'MOTION_30_LP', 'MOTION_31_RP', 'MOTION_32_CV', 'MOTION_33_CA', 'MOTION_34_MR0', 'MOTION_35_MR1', 'MOTION_36_MR2', 'MOTION_37_MR3', 'MOTION_38_CT', 'MOTION_39_TX', 'MOTION_3A_CHLN', 'MOTION_3B_HLV', 'MOTION_3D_WR1', 'MOTION_3E_WR2', 'MOTION_3F_WR3', 'MOTION_40_MRM', 'MOTION_41_P1M', 'MOTION_42_P2M', 'MOTION_43_AC', 'MOTION_44_SV', 'MOTION_45_DV', 'MOTION_46_TP', 'MOTION_47_SP1', 'MOTION_48_UI', 'MOTION_50_DRVRL', 'MOTION_51_DRVNR', 'MOTION_52_DRVVP', 'MOTION_53_DRVVM', 'MOTION_54_DRVAB', 'MOTION_56_DRVSBRK', 'MOTION_57_DRVFBRK', 'MOTION_58_DIRCP', 'MOTION_59_DIRCM', 'MOTION_5A_HMSRC', 'MOTION_60_LHK1', 'MOTION_61_LHK2', 'MOTION_62_LHK3', 'MOTION_63_LHK4', 'MOTION_64_CHKCW', 'MOTION_65_CHKCCW', 'MOTION_66_BHK2', 'MOTION_67_BHK3', 'MOTION_68_BHK4', 'MOTION_69_HLCW', 'MOTION_6A_HLCCW', 'MOTION_6B_HLPCW', 'MOTION_6C_HLPCCW', 'MOTION_6D_DECEN', 'MOTION_6E_DECDIS', 'MOTION_6F_CLRSTEP', 'MOTION_70_VINC', 'MOTION_71_VDEC', 'MOTION_72_DCC', 'MOTION_73_TMSTA', 'MOTION_74_TMSTP', 'MOTION_75_SPSTA', 'MOTION_76_SPSTP', 'MOTION_77_DHOLD', 'MOTION_78_DFREE', 'MOTION_79_R2CLR', 'MOTION_7A_RR3P0', 'MOTION_7B_RR3P1', 'MOTION_7C_MFPC', 'MOTION_81_SYNC0EN', 'MOTION_82_SYNC1EN', 'MOTION_83_SYNC01EN', 'MOTION_84_SYNC2EN', 'MOTION_85_SYNC02EN', 'MOTION_86_SYNC12EN', 'MOTION_87_SYNC012EN', 'MOTION_88_SYNC3EN', 'MOTION_89_SYNC03EN', 'MOTION_8A_SYNC13EN', 'MOTION_8B_SYNC013EN', 'MOTION_8C_SYNC23EN', 'MOTION_8D_SYNC023EN', 'MOTION_8E_SYNC123EN', 'MOTION_8F_SYNC0123EN', 'MOTION_91_SYNC0DIS', 'MOTION_92_SYNC1DIS', 'MOTION_93_SYNC01DIS', 'MOTION_94_SYNC2DIS', 'MOTION_95_SYNC02DIS', 'MOTION_96_SYNC12DIS', 'MOTION_97_SYNC012DIS', 'MOTION_98_SYNC3DIS', 'MOTION_99_SYNC03DIS', 'MOTION_9A_SYNC13DIS', 'MOTION_9B_SYNC013DIS', 'MOTION_9C_SYNC23DIS', 'MOTION_9D_SYNC023DIS', 'MOTION_9E_SYNC123DIS', 'MOTION_9F_SYNC0123DIS', 'MOTION_A1_SYNC0ACT', 'MOTION_A2_SYNC1ACT', 'MOTION_A3_SYNC01ACT', 'MOTION_A4_SYNC2ACT', 'MOTION_A5_SYNC02ACT', 'MOTION_A6_SYNC12ACT', 'MOTION_A7_SYNC012ACT', 'MOTION_A8_SYNC3ACT', 'MOTION_A9_SYNC03ACT', 'MOTION_AA_SYNC13ACT', 'MOTION_AB_SYNC013ACT', 'MOTION_AC_SYNC23ACT', 'MOTION_AD_SYNC023ACT', 'MOTION_AE_SYNC123ACT', 'MOTION_AF_SYNC0123ACT', 'MOTION_C0_SP0L', 'MOTION_C1_SP0E', 'MOTION_C2_SP1L', 'MOTION_C3_SP1E', 'MOTION_C4_SP2L', 'MOTION_C5_SP2E', 'MOTION_C6_INPL', 'MOTION_C7_INPE', 'MOTION_C8_ALML', 'MOTION_C9_ALME', 'MOTION_CA_HLML', 'MOTION_CB_HLME', 'MOTION_CC_HLMM', 'MOTION_CD_SLME', 'MOTION_CE_SLMO', 'MOTION_CF_SLMM', 'MOTION_D0_MANLD', 'MOTION_D1_DSNDE', 'MOTION_D2_SACC', 'MOTION_D3_DPMD0', 'MOTION_D4_DPMD1', 'MOTION_D5_DPL', 'MOTION_D6_DIRL', 'MOTION_D7_DPINV', 'MOTION_D8_PIMD0', 'MOTION_D9_PIMD1', 'MOTION_DA_PIL', 'MOTION_DB_PIINV', 'MOTION_DC_LMINV', 'MOTION_DD_AVTRI', 'MOTION_DE_TMMD', 'MOTION_E0_WR0', 'MOTION_E1_WR1', 'MOTION_E2_WR2', 'MOTION_E3_WR3', 'MOTION_E4_WR4', 'MOTION_E5_WR5', 'MOTION_E6_WR6', 'MOTION_E7_WR7', 'MOTION_E8_RR0', 'MOTION_E9_RR1', 'MOTION_EA_RR2', 'MOTION_EB_RR3', 'MOTION_EC_RR4', 'MOTION_ED_RR5', 'MOTION_EE_RR6', 'MOTION_EF_RR7', 'MOTION_FC_I2CCHK', 'MOTION_FD_I2CRST', 'MOTION_FE_HDRST', 'MRDRPortNotAvaliable', 'Measurement', 'MerlinAxis', 'MerlinDrive', 'MotionAccelerationModeError', 'MotionAxis', 'MotionAxisError', 'MotionBreakPointModeError', 'MotionCaptureModeError', 'MotionCaptureTypeError', 'MotionCircularInterpolation', 'MotionDirectionError', 'MotionEnableError', 'MotionHelicalInterpolation', 'MotionInifile', 'MotionLinearInterpolation', 'MotionOperationModeError', 'MotionPolarityError', 'MotionPortNotAvaliable', 'MotionSearchDirectionError', 'MotionSearchTypeError', 'MotionStepperOutputError', 'MotionStopModeError', 'NUM_BCST_RETRIES', 'NUM_RETRIES', 'NetworkClient', 'NetworkConnectionError', 'NetworkConnectionLostError', 'NetworkDevice', 'NetworkModule', 'OPEN_CAN', 'ORVWarning', 'PACKET_TIMEOUT', 'PRODUCT_LIST', 'PWMChannelNotAvaliableError', 'PWMModule', 'PinsNotExistError', 'PinsValueNotDefineError', 'PloverAin', 'PloverAio', 'PloverCan', 'PloverDio', 'PloverRtd', 'PloverSink', 'PloverTc', 'QUEUE_SIZE_MAX', 'QUEUE_TIMEOUT', 'RETRY_TIMEOUT', 'ReceivePacketTimeoutError', 'RelayCounterIndexError', 'RelayModule', 'ReplyFormatError', 'SPIDataLengthExceedMaxError', 'SPIDataSizeNotVaildError', 'SPIFirstBitNotVaildError', 'SPIModeNotVaildError', 'SPIModule', 'SPIPortNotAvaliableError', 'SPIPrescalerNotVaildError', 'START_AI_STREAMING', 'START_AI_STREAMING_VARIABLE', 'START_AO_STREAMING', 'START_CAN', 'START_MOTION_MONITORING', 'START_UART_READING', 'STREAMING_CMD_LIST', 'StreamQueue', 'SystemAnalogModule', 'SystemModule', 'TCPClient', 'TCP_CMD_PORT', 'TCP_DATA_LENGTH_MAX', 'TCP_DATA_PORT', 'TCP_PKT_LENGTH_MAX', 'ThermalChipSelectNotAvaliableError', 'ThermalModeNotVaildError', 'ThermalModule', 'ThermalPortNotAvaliableError', 'ThermalResistanceModule', 'ThermalTypeNotVaildError', 'ThermocoupleModule', 'Trellis', 'TrellisLite', 'TrellisPortNotAvaliableError', 'UARTBaudRateNotSupportError', 'UARTDataBitNotSupportError', 'UARTExceedMaxLengthError', 'UARTModule', 'UARTParityNotSupportError', 'UARTPortNotAvaliableError', 'UARTQueueOverflowWarning', 'UARTStopBitNotSupportError', 'UDPClient', 'UDP_PKT_LENGTH_MAX', 'UDP_RECV_PORT', 'UDP_SEND_PORT', 'USBClient', 'USBConnectionError', 'USBDevice', 'USB_61E_PLUS_PID', 'USB_61E_PLUS_VID', 'USB_61E_RECEIVE_BYTE', 'USB_61E_RECEIVE_TIMEOUT', 'USB_61E_RECEIVE_TOTAL_BYTES', 'USB_EP_IN', 'USB_EP_OUT', 'USB_PID', 'USB_PKT_SIZE', 'USB_VID', 'WifiDevice', 'WifiModule', 'adjustDataList', 'changeToTrellisPort', 'checkEachItemInRange', 'checkFirmwareError', 'checkFuncPinMap', 'checkInputType', 'checkInputTypeConsistent', 'checkPinMap', 'clearBit', 'coerce', 'convert2U8ToI16', 'convert2U8ToU16', 'convert4U8ToF32', 'convert4U8ToI32', 'convert4U8ToU32', 'convert8U8ToF64', 'convert8U8ToI64', 'convert8U8ToU64', 'convertF32To4U8', 'convertF64To8U8', 'convertI16To2U8', 'convertI32To4U8', 'convertI64To8U8', 'convertIPAddrTo4U8', 'convertIndexAndBinaryListsToInt', 'convertIndexListToInt', 'convertIntToBinaryList', 'convertIntToIndexList', 'convertMACAddrTo6U8', 'convertStrToU8List', 'convertU16To2U8', 'convertU32To4U8', 'convertU64To8U8', 'convertU8ListToStr', 'errAHRSMode', 'errAHRSPort', 'errAIChannel', 'errAIChip', 'errAIMode', 'errAIPort', 'errAIRate', 'errAOChannel', 'errAOForm', 'errAOMode', 'errAOPort', 'errAORate', 'errAOSpan', 'errAPINotSupport', 'errCANDataLength', 'errCANPort', 'errCANSpeed', 'errCANTX', 'errCANTXPriority', 'errCounterchannel', 'errDIPort', 'errDOPort', 'errDPOTChannel', 'errDPOTPort', 'errDeviceClosed', 'errFirmwareAI', 'errFirmwareAO', 'errFirmwareBootloader', 'errFirmwareCAN', 'errFirmwareCore', 'errFirmwareDIO', 'errFirmwareDrive', 'errFirmwareEEPROM', 'errFirmwareEnable', 'errFirmwareEncoder', 'errFirmwareHALIndex', 'errFirmwareI2C', 'errFirmwareMotion', 'errFirmwareOLED', 'errFirmwareORVIndex', 'errFirmwareOther', 'errFirmwarePWM', 'errFirmwareParser', 'errFirmwarePinIndex', 'errFirmwarePulse', 'errFirmwareRTC', 'errFirmwareRelay', 'errFirmwareSPI', 'errFirmwareTCP', 'errFirmwareTIM', 'errFirmwareThermal', 'errFirmwareUART', 'errFirmwareUDP', 'errFirmwareUSB', 'errI2CAddressSize', 'errI2CClock', 'errI2CPort', 'errIniFileName', 'errIniFileNotFound', 'errInputDataNotInRange', 'errInputTypeNotConsistent', 'errInputTypeNotCorrect', 'errLinkNotOpen', 'errMotionAccelerationMode', 'errMotionAxis', 'errMotionBreakPoint', 'errMotionCaptureMode', 'errMotionCaptureType', 'errMotionDirection', 'errMotionEnable', 'errMotionOperationMode', 'errMotionPolarity', 'errMotionPort', 'errMotionSearchDirection', 'errMotionSearchType', 'errMotionStepperOutput', 'errMotionStopMode', 'errNetConnection', 'errNetConnectionLost', 'errPWMchannel', 'errPacketTimeout', 'errPinsNotExist', 'errPinsValueNotDefine', 'errRelayIndex', 'errReplyFormat', 'errSPIDataLengthExceedMax', 'errSPIDataSize', 'errSPIFirstBit', 'errSPIMode', 'errSPIPort', 'errSPIPrescaler', 'errThermalChipSelect', 'errThermalMode', 'errThermalPort', 'errThermalType', 'errTrellisSlot', 'errUARTBaudRate', 'errUARTDataBit', 'errUARTExceedMaxLength', 'errUARTParity', 'errUARTPort', 'errUARTStopBit', 'errUSBConnection', 'fillBit', 'printGenericError', 'readBit', 'warnAHRSOverflow', 'warnAIOverflow', 'warnCANOverflow', 'warnLibNotFound', 'warnUARTOverflow', 'writeBit']
 class Error(Exception):
     """
     The driver's errors: each class has its fixed code and default message.
@@ -1773,6 +1773,7093 @@ class _LoopReactor:
         ...
     def _run_timers(self) -> None:
         ...
+class CANFrame:
+    """
+    One CAN frame: identifier (11 or 29 bits), extended and remote flags, eight data bytes, and its twelve-byte wire form.
+    """
+    __hash__: typing.ClassVar[None] = None
+    @staticmethod
+    def fromU8List(u8_list: collections.abc.Sequence[typing.SupportsInt | typing.SupportsIndex]) -> CANFrame:
+        """
+        The frame of a wire form: four identifier bytes, then the data.
+        """
+    @staticmethod
+    def from_message(msg: typing.Any) -> CANFrame:
+        """
+        A frame from a python-can Message: its identifier, flags and data (padded to eight bytes).
+        """
+    @staticmethod
+    def regularizeData(data: collections.abc.Sequence[typing.SupportsInt | typing.SupportsIndex]) -> list[int]:
+        """
+        A copy of data padded with zeros and cut to eight entries.
+        """
+    def __eq__(self, arg0: CANFrame) -> bool:
+        ...
+    def __init__(self, id_: typing.SupportsInt | typing.SupportsIndex, extended_id: bool = False, remote: bool = False, data: collections.abc.Sequence[typing.SupportsInt | typing.SupportsIndex] = [0, 0, 0, 0, 0, 0, 0, 0]) -> None:
+        """
+        A frame; data is copied, padded with zeros and cut to eight bytes.
+        """
+    def __repr__(self) -> str:
+        ...
+    def setID(self) -> None:
+        """
+        Recomputes id_in_list and frame_in_list from id, extended_id, remote and data.
+        """
+    def to_message(self) -> typing.Any:
+        """
+        The frame as a python-can Message (ImportError without python-can).
+        """
+    @property
+    def data(self) -> list[int]:
+        """
+        eight data bytes
+        """
+    @data.setter
+    def data(self, arg0: collections.abc.Sequence[typing.SupportsInt | typing.SupportsIndex]) -> None:
+        ...
+    @property
+    def extended_id(self) -> bool:
+        """
+        True for a 29-bit identifier
+        """
+    @extended_id.setter
+    def extended_id(self, arg0: bool) -> None:
+        ...
+    @property
+    def frame_in_list(self) -> list[int]:
+        """
+        the wire form: id_in_list, then data
+        """
+    @frame_in_list.setter
+    def frame_in_list(self, arg0: collections.abc.Sequence[typing.SupportsInt | typing.SupportsIndex]) -> None:
+        ...
+    @property
+    def id(self) -> int:
+        """
+        the identifier
+        """
+    @id.setter
+    def id(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def id_in_list(self) -> list[int]:
+        """
+        the identifier word as four bytes, high byte first
+        """
+    @id_in_list.setter
+    def id_in_list(self, arg0: collections.abc.Sequence[typing.SupportsInt | typing.SupportsIndex]) -> None:
+        ...
+    @property
+    def remote(self) -> bool:
+        """
+        True for a remote frame
+        """
+    @remote.setter
+    def remote(self, arg0: bool) -> None:
+        ...
+class DataLogger:
+    """
+    Writes rows of values to a CSV file from a writer thread of its own (save_data_thread), in the default CSV dialect (CR LF line ends, quotes only where needed, UTF-8).
+    
+    DataLogger(): the writer starts, held until a file is open.
+    """
+    queue_timeout: typing.ClassVar[float] = 999999.0
+    def Logger_openFile(self, filename: typing.Any, clear_old: bool = True, verbose: bool = True) -> int:
+        """
+        Logger_openFile(self, filename: str, clear_old: bool = True, verbose: bool = True) -> int
+        
+        Opens the file (clear_old: truncated, else appended to) and lets the writer run; verbose prints "Opened file name: (<filename>)". Returns 0.
+        
+        Raises:
+            OSError: the file cannot be opened.
+        """
+    def Logger_write2DList(self, value_mat: typing.Any) -> int:
+        """
+        Logger_write2DList(self, value_mat: collections.abc.Iterable[collections.abc.Iterable[typing.Any]]) -> int
+        
+        Queues rows, written together; an empty list writes nothing. Returns 0.
+        """
+    def Logger_writeHeader(self, header: typing.Any) -> int:
+        """
+        Logger_writeHeader(self, header: collections.abc.Sequence[str]) -> int
+        
+        Queues one row of column names. Returns 0.
+        """
+    def Logger_writeList(self, value_list: typing.Any) -> int:
+        """
+        Logger_writeList(self, value_list: collections.abc.Iterable[typing.Any]) -> int
+        
+        Queues one row; each value is written as the CSV writer formats it. Returns 0.
+        """
+    def Logger_writeValue(self, value: typing.Any) -> int:
+        """
+        Logger_writeValue(self, value: typing.Any) -> int
+        
+        Queues a row of one value. Returns 0.
+        """
+    def _Logger_close(self, verbose: bool = True) -> int:
+        """
+        _Logger_close(self, verbose: bool = True) -> int
+        
+        Closes the file and ends the writer; rows still queued are lost. Returns 0.
+        """
+    def _Logger_flush(self, timeout: typing.SupportsFloat | typing.SupportsIndex = 5.0) -> bool:
+        """
+        _Logger_flush(self, timeout: float = 5.0) -> bool
+        
+        Waits until the writer has written every row queued so far, at most timeout seconds; True when nothing is left queued.
+        """
+    def __init__(self) -> None:
+        ...
+    @property
+    def _save_data_queue_size(self) -> int:
+        """
+        Entries waiting in the queue.
+        """
+    @property
+    def _save_data_thread_id(self) -> int:
+        """
+        The native id of the writer thread; 0 once it has ended.
+        """
+    @property
+    def filename(self) -> str:
+        """
+        The file name last opened.
+        """
+    @property
+    def killed(self) -> bool:
+        """
+        True once the logger (or the device it belongs to) is closed.
+        """
+class MotionAxis:
+    """
+    The host's mirror of one motion axis and its ini-file settings.
+    """
+    def __init__(self) -> None:
+        ...
+    @property
+    def acceleration(self) -> int:
+        ...
+    @acceleration.setter
+    def acceleration(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def acceleration_mode(self) -> int:
+        ...
+    @acceleration_mode.setter
+    def acceleration_mode(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def breakpoint_mode(self) -> int:
+        ...
+    @breakpoint_mode.setter
+    def breakpoint_mode(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def breakpoint_polarity(self) -> int:
+        ...
+    @breakpoint_polarity.setter
+    def breakpoint_polarity(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def breakpoint_pulse_number(self) -> int:
+        ...
+    @breakpoint_pulse_number.setter
+    def breakpoint_pulse_number(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def breakpoint_pulse_period(self) -> int:
+        ...
+    @breakpoint_pulse_period.setter
+    def breakpoint_pulse_period(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def breakpoint_pulse_width(self) -> int:
+        ...
+    @breakpoint_pulse_width.setter
+    def breakpoint_pulse_width(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def breakpoint_start_position(self) -> int:
+        ...
+    @breakpoint_start_position.setter
+    def breakpoint_start_position(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def capture_mode(self) -> int:
+        ...
+    @capture_mode.setter
+    def capture_mode(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def capture_type(self) -> int:
+        ...
+    @capture_type.setter
+    def capture_type(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def deceleration(self) -> int:
+        ...
+    @deceleration.setter
+    def deceleration(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def destinate_position(self) -> int:
+        ...
+    @destinate_position.setter
+    def destinate_position(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def encoder_position(self) -> int:
+        ...
+    @encoder_position.setter
+    def encoder_position(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def jerk(self) -> int:
+        ...
+    @jerk.setter
+    def jerk(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def motion_dict(self) -> dict:
+        """
+        A copy of the labelled settings, in the ini file's order.
+        """
+    @property
+    def operation_mode(self) -> int:
+        ...
+    @operation_mode.setter
+    def operation_mode(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def search_accerleration(self) -> int:
+        ...
+    @search_accerleration.setter
+    def search_accerleration(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def search_type(self) -> int:
+        ...
+    @search_type.setter
+    def search_type(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def search_velocity(self) -> int:
+        ...
+    @search_velocity.setter
+    def search_velocity(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def stop(self) -> int:
+        ...
+    @stop.setter
+    def stop(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def stop_decl(self) -> int:
+        ...
+    @stop_decl.setter
+    def stop_decl(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def target_position(self) -> int:
+        ...
+    @target_position.setter
+    def target_position(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def velocity(self) -> int:
+        ...
+    @velocity.setter
+    def velocity(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def velocity_move_direction(self) -> int:
+        ...
+    @velocity_move_direction.setter
+    def velocity_move_direction(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+class MotionLinearInterpolation:
+    """
+    The last linear interpolation request.
+    """
+    @property
+    def acceleration(self) -> int:
+        ...
+    @acceleration.setter
+    def acceleration(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def fourth_axis(self) -> int:
+        ...
+    @fourth_axis.setter
+    def fourth_axis(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def fourth_dest(self) -> int:
+        ...
+    @fourth_dest.setter
+    def fourth_dest(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def main_axis(self) -> int:
+        ...
+    @main_axis.setter
+    def main_axis(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def main_dest(self) -> int:
+        ...
+    @main_dest.setter
+    def main_dest(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def mode(self) -> int:
+        ...
+    @mode.setter
+    def mode(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def second_axis(self) -> int:
+        ...
+    @second_axis.setter
+    def second_axis(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def second_dest(self) -> int:
+        ...
+    @second_dest.setter
+    def second_dest(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def speed(self) -> int:
+        ...
+    @speed.setter
+    def speed(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def third_axis(self) -> int:
+        ...
+    @third_axis.setter
+    def third_axis(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def third_dest(self) -> int:
+        ...
+    @third_dest.setter
+    def third_dest(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+class MotionCircularInterpolation:
+    """
+    The last circular interpolation request.
+    """
+    @property
+    def acceleration(self) -> int:
+        ...
+    @acceleration.setter
+    def acceleration(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def center_point_x(self) -> int:
+        ...
+    @center_point_x.setter
+    def center_point_x(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def center_point_y(self) -> int:
+        ...
+    @center_point_y.setter
+    def center_point_y(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def deceleration(self) -> int:
+        ...
+    @deceleration.setter
+    def deceleration(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def direction(self) -> int:
+        ...
+    @direction.setter
+    def direction(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def finish_point_x(self) -> int:
+        ...
+    @finish_point_x.setter
+    def finish_point_x(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def finish_point_y(self) -> int:
+        ...
+    @finish_point_y.setter
+    def finish_point_y(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def main_axis(self) -> int:
+        ...
+    @main_axis.setter
+    def main_axis(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def second_axis(self) -> int:
+        ...
+    @second_axis.setter
+    def second_axis(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def speed(self) -> int:
+        ...
+    @speed.setter
+    def speed(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+class MotionHelicalInterpolation:
+    """
+    The last helical interpolation request.
+    """
+    @property
+    def calculation_result(self) -> int:
+        ...
+    @calculation_result.setter
+    def calculation_result(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def center_point_axis1(self) -> int:
+        ...
+    @center_point_axis1.setter
+    def center_point_axis1(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def center_point_axis2(self) -> int:
+        ...
+    @center_point_axis2.setter
+    def center_point_axis2(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def circular_direction(self) -> int:
+        ...
+    @circular_direction.setter
+    def circular_direction(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def circular_speed(self) -> int:
+        ...
+    @circular_speed.setter
+    def circular_speed(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def enable_axis4(self) -> int:
+        ...
+    @enable_axis4.setter
+    def enable_axis4(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def finish_point_axis1(self) -> int:
+        ...
+    @finish_point_axis1.setter
+    def finish_point_axis1(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def finish_point_axis2(self) -> int:
+        ...
+    @finish_point_axis2.setter
+    def finish_point_axis2(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def pitch_axis3(self) -> int:
+        ...
+    @pitch_axis3.setter
+    def pitch_axis3(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def pitch_axis4(self) -> int:
+        ...
+    @pitch_axis4.setter
+    def pitch_axis4(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+    @property
+    def rotation_number(self) -> int:
+        ...
+    @rotation_number.setter
+    def rotation_number(self, arg0: typing.SupportsInt | typing.SupportsIndex) -> None:
+        ...
+class MotionInifile:
+    """
+    Settings and the words the motion ini file shows for them.
+    """
+    def _Motion_INI_convertIntToString(self, key: str, value: typing.Any) -> typing.Any:
+        ...
+    def _Motion_INI_convertStringToInt(self, key: str, label: str) -> typing.Any:
+        ...
+    def __init__(self) -> None:
+        ...
+    @property
+    def ini_in_dict(self) -> dict[str, dict[str, int]]:
+        ...
+    @property
+    def ini_out_dict(self) -> dict[str, dict[int, str]]:
+        ...
+class MCX514Driver:
+    """
+    The MCX514 command layer: one register write, read or chip command per MOTION packet.
+    """
+    def Motion_setLogicalPosi(self, port: int, axis: int, counter: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_09_LP of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            counter (int): -2**31..2**31-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_setLogicalPosi_async(self, port: int, axis: int, counter: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_setLogicalPosi, without timeout: Writes MOTION_09_LP of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            counter (int): -2**31..2**31-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_NOP(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_1F_NOP to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_NOP_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_NOP, without timeout: Sends the command MOTION_1F_NOP to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_absolutePositionDriving(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_54_DRVAB to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_absolutePositionDriving_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_absolutePositionDriving, without timeout: Sends the command MOTION_54_DRVAB to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_autoHomeSearch(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_5A_HMSRC to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_autoHomeSearch_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_autoHomeSearch, without timeout: Sends the command MOTION_5A_HMSRC to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_ccwCircularInterpolation(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_65_CHKCCW to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_ccwCircularInterpolation_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_ccwCircularInterpolation, without timeout: Sends the command MOTION_65_CHKCCW to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_ccwHelicalCalculation(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_6C_HLPCCW to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_ccwHelicalCalculation_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_ccwHelicalCalculation, without timeout: Sends the command MOTION_6C_HLPCCW to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_ccwHelicalInterpolation(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_6A_HLCCW to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_ccwHelicalInterpolation_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_ccwHelicalInterpolation, without timeout: Sends the command MOTION_6A_HLCCW to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_checkI2C(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_FC_I2CCHK to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_checkI2C_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_checkI2C, without timeout: Sends the command MOTION_FC_I2CCHK to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_clearDeviationCounterSpeed(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_72_DCC to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_clearDeviationCounterSpeed_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_clearDeviationCounterSpeed, without timeout: Sends the command MOTION_72_DCC to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_clearErrorStatus(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_79_R2CLR to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_clearErrorStatus_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_clearErrorStatus, without timeout: Sends the command MOTION_79_R2CLR to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_clearMaxFinishPoint(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_7C_MFPC to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_clearMaxFinishPoint_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_clearMaxFinishPoint, without timeout: Sends the command MOTION_7C_MFPC to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_counterRelativePositionDriving(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_51_DRVNR to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_counterRelativePositionDriving_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_counterRelativePositionDriving, without timeout: Sends the command MOTION_51_DRVNR to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_cwCircularInterpolation(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_64_CHKCW to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_cwCircularInterpolation_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_cwCircularInterpolation, without timeout: Sends the command MOTION_64_CHKCW to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_cwHelicalCalculation(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_6B_HLPCW to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_cwHelicalCalculation_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_cwHelicalCalculation, without timeout: Sends the command MOTION_6B_HLPCW to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_cwHelicalInterpolation(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_69_HLCW to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_cwHelicalInterpolation_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_cwHelicalInterpolation, without timeout: Sends the command MOTION_69_HLCW to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_decelerateStop(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_56_DRVSBRK to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_decelerateStop_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_decelerateStop, without timeout: Sends the command MOTION_56_DRVSBRK to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_decreaseSpeed(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_71_VDEC to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_decreaseSpeed_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_decreaseSpeed, without timeout: Sends the command MOTION_71_VDEC to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_dirSignalNegativeSetting(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_59_DIRCM to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_dirSignalNegativeSetting_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_dirSignalNegativeSetting, without timeout: Sends the command MOTION_59_DIRCM to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_dirSignalPositiveSetting(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_58_DIRCP to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_dirSignalPositiveSetting_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_dirSignalPositiveSetting, without timeout: Sends the command MOTION_58_DIRCP to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_disableActionSYNC0(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_91_SYNC0DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_disableActionSYNC0SYNC1(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_93_SYNC01DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_disableActionSYNC0SYNC1SYNC2(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_97_SYNC012DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_disableActionSYNC0SYNC1SYNC2SYNC3(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_9F_SYNC0123DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_disableActionSYNC0SYNC1SYNC2SYNC3_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_disableActionSYNC0SYNC1SYNC2SYNC3, without timeout: Sends the command MOTION_9F_SYNC0123DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_disableActionSYNC0SYNC1SYNC2_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_disableActionSYNC0SYNC1SYNC2, without timeout: Sends the command MOTION_97_SYNC012DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_disableActionSYNC0SYNC1SYNC3(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_9B_SYNC013DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_disableActionSYNC0SYNC1SYNC3_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_disableActionSYNC0SYNC1SYNC3, without timeout: Sends the command MOTION_9B_SYNC013DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_disableActionSYNC0SYNC1_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_disableActionSYNC0SYNC1, without timeout: Sends the command MOTION_93_SYNC01DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_disableActionSYNC0SYNC2(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_95_SYNC02DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_disableActionSYNC0SYNC2SYNC3(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_9D_SYNC023DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_disableActionSYNC0SYNC2SYNC3_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_disableActionSYNC0SYNC2SYNC3, without timeout: Sends the command MOTION_9D_SYNC023DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_disableActionSYNC0SYNC2_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_disableActionSYNC0SYNC2, without timeout: Sends the command MOTION_95_SYNC02DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_disableActionSYNC0SYNC3(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_99_SYNC03DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_disableActionSYNC0SYNC3_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_disableActionSYNC0SYNC3, without timeout: Sends the command MOTION_99_SYNC03DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_disableActionSYNC0_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_disableActionSYNC0, without timeout: Sends the command MOTION_91_SYNC0DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_disableActionSYNC1(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_92_SYNC1DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_disableActionSYNC1SYNC2(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_96_SYNC12DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_disableActionSYNC1SYNC2SYNC3(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_9E_SYNC123DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_disableActionSYNC1SYNC2SYNC3_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_disableActionSYNC1SYNC2SYNC3, without timeout: Sends the command MOTION_9E_SYNC123DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_disableActionSYNC1SYNC2_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_disableActionSYNC1SYNC2, without timeout: Sends the command MOTION_96_SYNC12DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_disableActionSYNC1SYNC3(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_9A_SYNC13DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_disableActionSYNC1SYNC3_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_disableActionSYNC1SYNC3, without timeout: Sends the command MOTION_9A_SYNC13DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_disableActionSYNC1_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_disableActionSYNC1, without timeout: Sends the command MOTION_92_SYNC1DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_disableActionSYNC2(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_94_SYNC2DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_disableActionSYNC2SYNC3(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_9C_SYNC23DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_disableActionSYNC2SYNC3_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_disableActionSYNC2SYNC3, without timeout: Sends the command MOTION_9C_SYNC23DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_disableActionSYNC2_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_disableActionSYNC2, without timeout: Sends the command MOTION_94_SYNC2DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_disableActionSYNC3(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_98_SYNC3DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_disableActionSYNC3_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_disableActionSYNC3, without timeout: Sends the command MOTION_98_SYNC3DIS to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_disableDeceleration(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_6E_DECDIS to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_disableDeceleration_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_disableDeceleration, without timeout: Sends the command MOTION_6E_DECDIS to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_disableTriangleFormPrevention(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_DD_AVTRI of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_disableTriangleFormPrevention_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_disableTriangleFormPrevention, without timeout: Writes MOTION_DD_AVTRI of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_displayRR3PageOne(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_7B_RR3P1 to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_displayRR3PageOne_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_displayRR3PageOne, without timeout: Sends the command MOTION_7B_RR3P1 to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_displayRR3PageZero(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_7A_RR3P0 to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_displayRR3PageZero_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_displayRR3PageZero, without timeout: Sends the command MOTION_7A_RR3P0 to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableActionSYNC0(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_81_SYNC0EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableActionSYNC0SYNC1(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_83_SYNC01EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableActionSYNC0SYNC1SYNC2(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_87_SYNC012EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableActionSYNC0SYNC1SYNC2SYNC3(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_8F_SYNC0123EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableActionSYNC0SYNC1SYNC2SYNC3_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableActionSYNC0SYNC1SYNC2SYNC3, without timeout: Sends the command MOTION_8F_SYNC0123EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableActionSYNC0SYNC1SYNC2_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableActionSYNC0SYNC1SYNC2, without timeout: Sends the command MOTION_87_SYNC012EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableActionSYNC0SYNC1SYNC3(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_8B_SYNC013EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableActionSYNC0SYNC1SYNC3_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableActionSYNC0SYNC1SYNC3, without timeout: Sends the command MOTION_8B_SYNC013EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableActionSYNC0SYNC1_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableActionSYNC0SYNC1, without timeout: Sends the command MOTION_83_SYNC01EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableActionSYNC0SYNC2(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_85_SYNC02EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableActionSYNC0SYNC2SYNC3(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_8D_SYNC023EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableActionSYNC0SYNC2SYNC3_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableActionSYNC0SYNC2SYNC3, without timeout: Sends the command MOTION_8D_SYNC023EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableActionSYNC0SYNC2_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableActionSYNC0SYNC2, without timeout: Sends the command MOTION_85_SYNC02EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableActionSYNC0SYNC3(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_89_SYNC03EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableActionSYNC0SYNC3_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableActionSYNC0SYNC3, without timeout: Sends the command MOTION_89_SYNC03EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableActionSYNC0_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableActionSYNC0, without timeout: Sends the command MOTION_81_SYNC0EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableActionSYNC1(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_82_SYNC1EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableActionSYNC1SYNC2(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_86_SYNC12EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableActionSYNC1SYNC2SYNC3(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_8E_SYNC123EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableActionSYNC1SYNC2SYNC3_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableActionSYNC1SYNC2SYNC3, without timeout: Sends the command MOTION_8E_SYNC123EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableActionSYNC1SYNC2_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableActionSYNC1SYNC2, without timeout: Sends the command MOTION_86_SYNC12EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableActionSYNC1SYNC3(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_8A_SYNC13EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableActionSYNC1SYNC3_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableActionSYNC1SYNC3, without timeout: Sends the command MOTION_8A_SYNC13EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableActionSYNC1_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableActionSYNC1, without timeout: Sends the command MOTION_82_SYNC1EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableActionSYNC2(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_84_SYNC2EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableActionSYNC2SYNC3(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_8C_SYNC23EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableActionSYNC2SYNC3_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableActionSYNC2SYNC3, without timeout: Sends the command MOTION_8C_SYNC23EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableActionSYNC2_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableActionSYNC2, without timeout: Sends the command MOTION_84_SYNC2EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableActionSYNC3(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_88_SYNC3EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableActionSYNC3_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableActionSYNC3, without timeout: Sends the command MOTION_88_SYNC3EN to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableAsymmetricAccelerationDeceleration(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_D1_DSNDE of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableAsymmetricAccelerationDeceleration_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableAsymmetricAccelerationDeceleration, without timeout: Writes MOTION_D1_DSNDE of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableDeceleratingStopHardwareLimitOn(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_CC_HLMM of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableDeceleratingStopHardwareLimitOn_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableDeceleratingStopHardwareLimitOn, without timeout: Writes MOTION_CC_HLMM of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableDeceleration(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_6D_DECEN to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableDeceleration_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableDeceleration, without timeout: Sends the command MOTION_6D_DECEN to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableDrivingStop0(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_C1_SP0E of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableDrivingStop0_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableDrivingStop0, without timeout: Writes MOTION_C1_SP0E of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableDrivingStop1(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_C3_SP1E of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableDrivingStop1_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableDrivingStop1, without timeout: Writes MOTION_C3_SP1E of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableDrivingStop2(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_C5_SP2E of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableDrivingStop2_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableDrivingStop2, without timeout: Writes MOTION_C5_SP2E of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableECA_ECBPinInversion(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_DB_PIINV of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableECA_ECBPinInversion_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableECA_ECBPinInversion, without timeout: Writes MOTION_DB_PIINV of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableHardwareLimit(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_CB_HLME of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableHardwareLimit_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableHardwareLimit, without timeout: Writes MOTION_CB_HLME of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableInposition(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_C7_INPE of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableInposition_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableInposition, without timeout: Writes MOTION_C7_INPE of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableInstantStopSoftwareLimitOn(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_CF_SLMM of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableInstantStopSoftwareLimitOn_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableInstantStopSoftwareLimitOn, without timeout: Writes MOTION_CF_SLMM of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableLMTP_LMTMPinInversion(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_DC_LMINV of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableLMTP_LMTMPinInversion_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableLMTP_LMTMPinInversion, without timeout: Writes MOTION_DC_LMINV of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableManualDeceleration(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_D0_MANLD of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableManualDeceleration_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableManualDeceleration, without timeout: Writes MOTION_D0_MANLD of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enablePMPPPinInversion(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_D7_DPINV of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enablePMPPPinInversion_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enablePMPPPinInversion, without timeout: Writes MOTION_D7_DPINV of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableRealPosiCounterSoftwareLimitOn(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_CE_SLMO of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableRealPosiCounterSoftwareLimitOn_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableRealPosiCounterSoftwareLimitOn, without timeout: Writes MOTION_CE_SLMO of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableRepeatTimer(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_DE_TMMD of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableRepeatTimer_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableRepeatTimer, without timeout: Writes MOTION_DE_TMMD of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableScurveDriving(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_D2_SACC of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableScurveDriving_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableScurveDriving, without timeout: Writes MOTION_D2_SACC of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableServoAlarm(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_C9_ALME of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableServoAlarm_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableServoAlarm, without timeout: Writes MOTION_C9_ALME of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_enableSoftwareLimit(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_CD_SLME of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableSoftwareLimit_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableSoftwareLimit, without timeout: Writes MOTION_CD_SLME of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_fourAxisLinearInterpolation(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_63_LHK4 to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_fourAxisLinearInterpolation_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_fourAxisLinearInterpolation, without timeout: Sends the command MOTION_63_LHK4 to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_fourAxisPatternPolation(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_68_BHK4 to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_fourAxisPatternPolation_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_fourAxisPatternPolation, without timeout: Sends the command MOTION_68_BHK4 to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getAcceleration(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_43_AC of an axis (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getAcceleration_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getAcceleration, without timeout: Reads MOTION_43_AC of an axis (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getCurrentAcceleration(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_33_CA of an axis (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getCurrentAcceleration_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getCurrentAcceleration, without timeout: Reads MOTION_33_CA of an axis (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getCurrentDriveSpeed(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_32_CV of an axis (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getCurrentDriveSpeed_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getCurrentDriveSpeed, without timeout: Reads MOTION_32_CV of an axis (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getCurrentTimer(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_38_CT of an axis (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getCurrentTimer_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getCurrentTimer, without timeout: Reads MOTION_38_CT of an axis (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getDrivePulseNumberPoint(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_46_TP of an axis (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getDrivePulseNumberPoint_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getDrivePulseNumberPoint, without timeout: Reads MOTION_46_TP of an axis (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getDriveSpeed(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_45_DV of an axis (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getDriveSpeed_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getDriveSpeed, without timeout: Reads MOTION_45_DV of an axis (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getGeneralPurposeInput(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_48_UI of an axis (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getGeneralPurposeInput_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getGeneralPurposeInput, without timeout: Reads MOTION_48_UI of an axis (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getHelicalCalculation(self, port: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_3B_HLV of the chip (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getHelicalCalculation_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getHelicalCalculation, without timeout: Reads MOTION_3B_HLV of the chip (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getHelicalRotaionNumber(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_3A_CHLN of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getHelicalRotaionNumber_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getHelicalRotaionNumber, without timeout: Reads MOTION_3A_CHLN of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getInitialSpeed(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_44_SV of an axis (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getInitialSpeed_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getInitialSpeed, without timeout: Reads MOTION_44_SV of an axis (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getMaxInterpolationPoint(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_39_TX of an axis (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getMaxInterpolationPoint_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getMaxInterpolationPoint, without timeout: Reads MOTION_39_TX of an axis (one MOTION packet): a 32-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getMultiPurposeRegister0(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_34_MR0 of an axis (one MOTION packet): a 32-bit signed value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getMultiPurposeRegister0_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getMultiPurposeRegister0, without timeout: Reads MOTION_34_MR0 of an axis (one MOTION packet): a 32-bit signed value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getMultiPurposeRegister1(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_35_MR1 of an axis (one MOTION packet): a 32-bit signed value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getMultiPurposeRegister1_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getMultiPurposeRegister1, without timeout: Reads MOTION_35_MR1 of an axis (one MOTION packet): a 32-bit signed value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getMultiPurposeRegister2(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_36_MR2 of an axis (one MOTION packet): a 32-bit signed value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getMultiPurposeRegister2_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getMultiPurposeRegister2, without timeout: Reads MOTION_36_MR2 of an axis (one MOTION packet): a 32-bit signed value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getMultiPurposeRegister3(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_37_MR3 of an axis (one MOTION packet): a 32-bit signed value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getMultiPurposeRegister3_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getMultiPurposeRegister3, without timeout: Reads MOTION_37_MR3 of an axis (one MOTION packet): a 32-bit signed value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getMultiPurposeRegisterMode(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_40_MRM of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getMultiPurposeRegisterMode_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getMultiPurposeRegisterMode, without timeout: Reads MOTION_40_MRM of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getPIOSignal1(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_41_P1M of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getPIOSignal1_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getPIOSignal1, without timeout: Reads MOTION_41_P1M of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getPIOSignal2(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_42_P2M of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getPIOSignal2_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getPIOSignal2, without timeout: Reads MOTION_42_P2M of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getWR1(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_3D_WR1 of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getWR1_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getWR1, without timeout: Reads MOTION_3D_WR1 of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getWR2(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_3E_WR2 of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getWR2_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getWR2, without timeout: Reads MOTION_3E_WR2 of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_getWR3(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_3F_WR3 of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getWR3_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getWR3, without timeout: Reads MOTION_3F_WR3 of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_holdDrivingStart(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_77_DHOLD to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_holdDrivingStart_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_holdDrivingStart, without timeout: Sends the command MOTION_77_DHOLD to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_increaseSpeed(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_70_VINC to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_increaseSpeed_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_increaseSpeed, without timeout: Sends the command MOTION_70_VINC to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_instantStop(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_57_DRVFBRK to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_instantStop_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_instantStop, without timeout: Sends the command MOTION_57_DRVFBRK to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_interruptSingleStepInterpolation(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_6F_CLRSTEP to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_interruptSingleStepInterpolation_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_interruptSingleStepInterpolation, without timeout: Sends the command MOTION_6F_CLRSTEP to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_negativeDirContinuousPlusDriving(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_53_DRVVM to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_negativeDirContinuousPlusDriving_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_negativeDirContinuousPlusDriving, without timeout: Sends the command MOTION_53_DRVVM to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_oneAxisLinearInterpolation(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_60_LHK1 to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_oneAxisLinearInterpolation_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_oneAxisLinearInterpolation, without timeout: Sends the command MOTION_60_LHK1 to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_positiveDirContinuousPlusDriving(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_52_DRVVP to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_positiveDirContinuousPlusDriving_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_positiveDirContinuousPlusDriving, without timeout: Sends the command MOTION_52_DRVVP to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_relativePositionDriving(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_50_DRVRL to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_relativePositionDriving_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_relativePositionDriving, without timeout: Sends the command MOTION_50_DRVRL to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_releaseDrivingStart(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_78_DFREE to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): the axis byte as given: a mask of axes, bit n for axis n
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: never: the call raises AttributeError and sends nothing
+        
+        Raises, before anything is sent:
+            AttributeError: always, before any packet: the axis check _checkMotionAxis does not exist in this version.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_releaseDrivingStart_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_releaseDrivingStart, without timeout: Sends the command MOTION_78_DFREE to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): the axis byte as given: a mask of axes, bit n for axis n
+        
+        Returns:
+            int: never: the call raises AttributeError and sends nothing
+        
+        Raises, before anything is sent:
+            AttributeError: always, before any packet: the axis check _checkMotionAxis does not exist in this version.
+        """
+    def _Motion_reset(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_FE_HDRST to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_resetHardware(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_FE_HDRST to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_resetHardware_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_resetHardware, without timeout: Sends the command MOTION_FE_HDRST to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_resetI2C(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_FD_I2CRST to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_resetI2C_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_resetI2C, without timeout: Sends the command MOTION_FD_I2CRST to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_reset_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_reset, without timeout: Sends the command MOTION_FE_HDRST to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setAcceleration(self, port: int, axis: int, acceleration: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_02_AC of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            acceleration (int): 0..2**32-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setAccelerationCounterOffset(self, port: int, axis: int, offset: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_0D_AO of an axis (one MOTION packet): a signed 16-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            offset (int): -32768..32767
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setAccelerationCounterOffset_async(self, port: int, axis: int, offset: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setAccelerationCounterOffset, without timeout: Writes MOTION_0D_AO of an axis (one MOTION packet): a signed 16-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            offset (int): -32768..32767
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setAccelerationJerk(self, port: int, axis: int, jerk: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_00_JK of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            jerk (int): 0..2**32-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setAccelerationJerk_async(self, port: int, axis: int, jerk: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setAccelerationJerk, without timeout: Writes MOTION_00_JK of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            jerk (int): 0..2**32-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setAcceleration_async(self, port: int, axis: int, acceleration: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setAcceleration, without timeout: Writes MOTION_02_AC of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            acceleration (int): 0..2**32-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setAutoHomeSearchMode1(self, port: int, axis: int, state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_23_H1M of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setAutoHomeSearchMode1_async(self, port: int, axis: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setAutoHomeSearchMode1, without timeout: Writes MOTION_23_H1M of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setAutoHomeSearchMode2(self, port: int, axis: int, state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_24_H2M of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setAutoHomeSearchMode2_async(self, port: int, axis: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setAutoHomeSearchMode2, without timeout: Writes MOTION_24_H2M of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setCircularCenterPoint(self, port: int, axis: int, point: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_08_CP of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            point (int): -2**31..2**31-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setCircularCenterPoint_async(self, port: int, axis: int, point: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setCircularCenterPoint, without timeout: Writes MOTION_08_CP of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            point (int): -2**31..2**31-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setDeceleration(self, port: int, axis: int, deceleration: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_03_DC of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            deceleration (int): 0..2**32-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setDecelerationJerk(self, port: int, axis: int, jerk: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_01_DJ of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            jerk (int): 0..2**32-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setDecelerationJerk_async(self, port: int, axis: int, jerk: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setDecelerationJerk, without timeout: Writes MOTION_01_DJ of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            jerk (int): 0..2**32-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setDeceleration_async(self, port: int, axis: int, deceleration: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setDeceleration, without timeout: Writes MOTION_03_DC of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            deceleration (int): 0..2**32-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setDrivePositionFinishPoint(self, port: int, axis: int, point: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_06_TP of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            point (int): -2**31..2**31-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setDrivePositionFinishPoint_async(self, port: int, axis: int, point: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setDrivePositionFinishPoint, without timeout: Writes MOTION_06_TP of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            point (int): -2**31..2**31-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setDriveSpeed(self, port: int, axis: int, speed: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_05_DV of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            speed (int): 0..2**32-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setDriveSpeed_async(self, port: int, axis: int, speed: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setDriveSpeed, without timeout: Writes MOTION_05_DV of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            speed (int): 0..2**32-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setEncoderPulseInputBit0(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_D8_PIMD0 of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setEncoderPulseInputBit0_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setEncoderPulseInputBit0, without timeout: Writes MOTION_D8_PIMD0 of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setEncoderPulseInputBit1(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_D9_PIMD1 of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setEncoderPulseInputBit1_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setEncoderPulseInputBit1, without timeout: Writes MOTION_D9_PIMD1 of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setGPIOValue(self, port: int, axis: int, mask: int, value: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_1C_GPIO of an axis (one MOTION packet): a mask and a value byte.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            mask (int): one byte
+            value (int): one byte
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setGPIOValue_async(self, port: int, axis: int, mask: int, value: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setGPIOValue, without timeout: Writes MOTION_1C_GPIO of an axis (one MOTION packet): a mask and a value byte.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            mask (int): one byte
+            value (int): one byte
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setHelicalCalculation(self, port: int, helical_calculation: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_1B_HLV of the chip (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            helical_calculation (int): 0..2**32-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setHelicalCalculation_async(self, port: int, helical_calculation: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setHelicalCalculation, without timeout: Writes MOTION_1B_HLV of the chip (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            helical_calculation (int): 0..2**32-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setHelicalRotationNumber(self, port: int, helical_rotation_number: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_1A_HLN of the chip (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            helical_rotation_number (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setHelicalRotationNumber_async(self, port: int, helical_rotation_number: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setHelicalRotationNumber, without timeout: Writes MOTION_1A_HLN of the chip (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            helical_rotation_number (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setHomeSearchSpeed(self, port: int, axis: int, speed: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_14_HV of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            speed (int): 0..2**32-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setHomeSearchSpeed_async(self, port: int, axis: int, speed: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setHomeSearchSpeed, without timeout: Writes MOTION_14_HV of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            speed (int): 0..2**32-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setIncreasingOrDecreasingSpeed(self, port: int, axis: int, speed: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_15_IV of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            speed (int): 0..2**32-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setIncreasingOrDecreasingSpeed_async(self, port: int, axis: int, speed: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setIncreasingOrDecreasingSpeed, without timeout: Writes MOTION_15_IV of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            speed (int): 0..2**32-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setInitialSpeed(self, port: int, axis: int, speed: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_04_SV of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            speed (int): 0..2**32-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setInitialSpeed_async(self, port: int, axis: int, speed: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setInitialSpeed, without timeout: Writes MOTION_04_SV of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            speed (int): 0..2**32-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setInputSignalFilterMode(self, port: int, axis: int, state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_25_FLM of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setInputSignalFilterMode_async(self, port: int, axis: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setInputSignalFilterMode, without timeout: Writes MOTION_25_FLM of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setInterpolationMode(self, port: int, state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_2A_IPM of the chip (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            state (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setInterpolationMode_async(self, port: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setInterpolationMode, without timeout: Writes MOTION_2A_IPM of the chip (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            state (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setLogicalCounterMaxValue(self, port: int, axis: int, value: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_0E_LX of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            value (int): 0..2**32-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setLogicalCounterMaxValue_async(self, port: int, axis: int, value: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setLogicalCounterMaxValue, without timeout: Writes MOTION_0E_LX of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            value (int): 0..2**32-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setLogicalLevelDrivingStop0(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_C0_SP0L of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setLogicalLevelDrivingStop0_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setLogicalLevelDrivingStop0, without timeout: Writes MOTION_C0_SP0L of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setLogicalLevelDrivingStop1(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_C2_SP1L of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setLogicalLevelDrivingStop1_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setLogicalLevelDrivingStop1, without timeout: Writes MOTION_C2_SP1L of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setLogicalLevelDrivingStop2(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_C4_SP2L of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setLogicalLevelDrivingStop2_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setLogicalLevelDrivingStop2, without timeout: Writes MOTION_C4_SP2L of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setLogicalLevelHardwareLimit(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_CA_HLML of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setLogicalLevelHardwareLimit_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setLogicalLevelHardwareLimit, without timeout: Writes MOTION_CA_HLML of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setLogicalLevelInposition(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_C6_INPL of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setLogicalLevelInposition_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setLogicalLevelInposition, without timeout: Writes MOTION_C6_INPL of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setLogicalLevelOfDrivingPulse(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_D5_DPL of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setLogicalLevelOfDrivingPulse_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setLogicalLevelOfDrivingPulse, without timeout: Writes MOTION_D5_DPL of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setLogicalLevelOfEncoderInputSignal(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_DA_PIL of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setLogicalLevelOfEncoderInputSignal_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setLogicalLevelOfEncoderInputSignal, without timeout: Writes MOTION_DA_PIL of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setLogicalLevelOfOnePulse(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_D6_DIRL of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setLogicalLevelOfOnePulse_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setLogicalLevelOfOnePulse, without timeout: Writes MOTION_D6_DIRL of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setLogicalLevelServoAlarm(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_C8_ALML of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setLogicalLevelServoAlarm_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setLogicalLevelServoAlarm, without timeout: Writes MOTION_C8_ALML of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setManualDecelerationPoint(self, port: int, axis: int, point: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_07_DP of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            point (int): 0..2**32-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setManualDecelerationPoint_async(self, port: int, axis: int, point: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setManualDecelerationPoint, without timeout: Writes MOTION_07_DP of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            point (int): 0..2**32-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setMaxInterpolationPoint(self, port: int, point: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_19_TX of the chip (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            point (int): 0..2**32-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setMaxInterpolationPoint_async(self, port: int, point: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setMaxInterpolationPoint, without timeout: Writes MOTION_19_TX of the chip (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            point (int): 0..2**32-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setMultiPurposeMode(self, port: int, axis: int, state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_20_MRM of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setMultiPurposeMode_async(self, port: int, axis: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setMultiPurposeMode, without timeout: Writes MOTION_20_MRM of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setMultiPurposeRegister0(self, port: int, axis: int, position: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_10_MR0 of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            position (int): -2**31..2**31-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setMultiPurposeRegister0_async(self, port: int, axis: int, position: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setMultiPurposeRegister0, without timeout: Writes MOTION_10_MR0 of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            position (int): -2**31..2**31-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setMultiPurposeRegister1(self, port: int, axis: int, register: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_11_MR1 of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            register (int): -2**31..2**31-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setMultiPurposeRegister1_async(self, port: int, axis: int, register: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setMultiPurposeRegister1, without timeout: Writes MOTION_11_MR1 of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            register (int): -2**31..2**31-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setMultiPurposeRegister2(self, port: int, axis: int, register: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_12_MR2 of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            register (int): -2**31..2**31-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setMultiPurposeRegister2_async(self, port: int, axis: int, register: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setMultiPurposeRegister2, without timeout: Writes MOTION_12_MR2 of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            register (int): -2**31..2**31-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setMultiPurposeRegister3(self, port: int, axis: int, register: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_13_MR3 of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            register (int): -2**31..2**31-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setMultiPurposeRegister3_async(self, port: int, axis: int, register: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setMultiPurposeRegister3, without timeout: Writes MOTION_13_MR3 of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            register (int): -2**31..2**31-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setPIOSignal1(self, port: int, axis: int, state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_21_P1M of an axis (one MOTION packet): the fixed word 0x5505.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): the axis byte as given: a mask of axes, bit n for axis n
+            state (int): not sent
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setPIOSignal1_async(self, port: int, axis: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setPIOSignal1, without timeout: Writes MOTION_21_P1M of an axis (one MOTION packet): the fixed word 0x5505.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): the axis byte as given: a mask of axes, bit n for axis n
+            state (int): not sent
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setPIOSignal2(self, port: int, axis: int, state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_22_P2M of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setPIOSignal2_async(self, port: int, axis: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setPIOSignal2, without timeout: Writes MOTION_22_P2M of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setPulseModeBit0(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_D3_DPMD0 of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setPulseModeBit0_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setPulseModeBit0, without timeout: Writes MOTION_D3_DPMD0 of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setPulseModeBit1(self, port: int, axis: int, on_state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_D4_DPMD1 of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setPulseModeBit1_async(self, port: int, axis: int, on_state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setPulseModeBit1, without timeout: Writes MOTION_D4_DPMD1 of an axis (one MOTION packet): a single switch.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            on_state (int): 0 or 1 by intent, sent as one byte as given
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setRealCounterMaxValue(self, port: int, axis: int, value: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_0F_RX of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            value (int): 0..2**32-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setRealCounterMaxValue_async(self, port: int, axis: int, value: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setRealCounterMaxValue, without timeout: Writes MOTION_0F_RX of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            value (int): 0..2**32-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setRealPositionCounter(self, port: int, axis: int, counter: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_0A_RP of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            counter (int): -2**31..2**31-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setRealPositionCounter_async(self, port: int, axis: int, counter: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setRealPositionCounter, without timeout: Writes MOTION_0A_RP of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            counter (int): -2**31..2**31-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setSYNCAction0(self, port: int, axis: int, state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_26_S0M of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setSYNCAction0_async(self, port: int, axis: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setSYNCAction0, without timeout: Writes MOTION_26_S0M of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setSYNCAction1(self, port: int, axis: int, state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_27_S1M of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setSYNCAction1_async(self, port: int, axis: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setSYNCAction1, without timeout: Writes MOTION_27_S1M of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setSYNCAction2(self, port: int, axis: int, state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_28_S2M of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setSYNCAction2_async(self, port: int, axis: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setSYNCAction2, without timeout: Writes MOTION_28_S2M of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setSYNCAction3(self, port: int, axis: int, state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_29_S3M of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setSYNCAction3_async(self, port: int, axis: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setSYNCAction3, without timeout: Writes MOTION_29_S3M of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setSoftwareLimitM(self, port: int, axis: int, position: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_0C_SM of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            position (int): -2**31..2**31-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setSoftwareLimitM_async(self, port: int, axis: int, position: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setSoftwareLimitM, without timeout: Writes MOTION_0C_SM of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            position (int): -2**31..2**31-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setSoftwareLimitP(self, port: int, axis: int, position: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_0B_SP of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            position (int): -2**31..2**31-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setSoftwareLimitP_async(self, port: int, axis: int, position: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setSoftwareLimitP, without timeout: Writes MOTION_0B_SP of an axis (one MOTION packet): a signed 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            position (int): -2**31..2**31-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_setTimer(self, port: int, axis: int, timer: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_16_TM of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timer (int): 0..2**32-1; a float is truncated
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setTimer_async(self, port: int, axis: int, timer: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setTimer, without timeout: Writes MOTION_16_TM of an axis (one MOTION packet): an unsigned 32-bit value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timer (int): 0..2**32-1; a float is truncated
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_splitPulse1(self, port: int, axis: int, pulse_width: int, pulse_period: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_17_SP1 of an axis (one MOTION packet): two 16-bit values.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            pulse_width (int): 0..65535
+            pulse_period (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_splitPulse1_async(self, port: int, axis: int, pulse_width: int, pulse_period: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_splitPulse1, without timeout: Writes MOTION_17_SP1 of an axis (one MOTION packet): two 16-bit values.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            pulse_width (int): 0..65535
+            pulse_period (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_splitPulse2(self, port: int, axis: int, pulse_number: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_16_TM of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            pulse_number (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_splitPulse2_async(self, port: int, axis: int, pulse_number: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_splitPulse2, without timeout: Writes MOTION_16_TM of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            pulse_number (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_startSplitPulse(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_75_SPSTA to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_startSplitPulse_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_startSplitPulse, without timeout: Sends the command MOTION_75_SPSTA to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_startTimer(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_73_TMSTA to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_startTimer_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_startTimer, without timeout: Sends the command MOTION_73_TMSTA to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_stopSplitPulse(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_76_SPSTP to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_stopSplitPulse_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_stopSplitPulse, without timeout: Sends the command MOTION_76_SPSTP to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_stopTimer(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_74_TMSTP to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_stopTimer_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_stopTimer, without timeout: Sends the command MOTION_74_TMSTP to an axis (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_threeAxisLinearInterpolation(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_62_LHK3 to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_threeAxisLinearInterpolation_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_threeAxisLinearInterpolation, without timeout: Sends the command MOTION_62_LHK3 to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_threeAxisPatternPolation(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_67_BHK3 to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_threeAxisPatternPolation_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_threeAxisPatternPolation, without timeout: Sends the command MOTION_67_BHK3 to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_twoAxisLinearInterpolation(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_61_LHK2 to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_twoAxisLinearInterpolation_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_twoAxisLinearInterpolation, without timeout: Sends the command MOTION_61_LHK2 to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_twoAxisPatternPolation(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the command MOTION_66_BHK2 to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_twoAxisPatternPolation_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_twoAxisPatternPolation, without timeout: Sends the command MOTION_66_BHK2 to the chip (one MOTION packet).
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_writeRR0(self, port: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_E8_RR0 of the chip (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeRR0_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeRR0, without timeout: Reads MOTION_E8_RR0 of the chip (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_writeRR1(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_E9_RR1 of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeRR1_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeRR1, without timeout: Reads MOTION_E9_RR1 of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_writeRR2(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_EA_RR2 of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeRR2_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeRR2, without timeout: Reads MOTION_EA_RR2 of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_writeRR3(self, port: int, axis: int, page: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_EB_RR3 of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            page (int): the RR3 page, one byte
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeRR3_async(self, port: int, axis: int, page: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeRR3, without timeout: Reads MOTION_EB_RR3 of an axis (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            page (int): the RR3 page, one byte
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_writeRR4(self, port: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_EC_RR4 of the chip (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeRR4_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeRR4, without timeout: Reads MOTION_EC_RR4 of the chip (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_writeRR5(self, port: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_ED_RR5 of the chip (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeRR5_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeRR5, without timeout: Reads MOTION_ED_RR5 of the chip (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_writeRR6(self, port: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_EE_RR6 of the chip (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeRR6_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeRR6, without timeout: Reads MOTION_EE_RR6 of the chip (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_writeRR7(self, port: int, timeout: float = 3) -> int:
+        """
+        Reads MOTION_EF_RR7 of the chip (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeRR7_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeRR7, without timeout: Reads MOTION_EF_RR7 of the chip (one MOTION packet): a 16-bit unsigned value.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+        
+        Returns:
+            int: the value read from the reply
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_writeWR0(self, port: int, state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_E0_WR0 of the chip (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            state (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeWR0_async(self, port: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeWR0, without timeout: Writes MOTION_E0_WR0 of the chip (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            state (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_writeWR1(self, port: int, axis: int, state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_E1_WR1 of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeWR1_async(self, port: int, axis: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeWR1, without timeout: Writes MOTION_E1_WR1 of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_writeWR2(self, port: int, axis: int, state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_E2_WR2 of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeWR2_async(self, port: int, axis: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeWR2, without timeout: Writes MOTION_E2_WR2 of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_writeWR3(self, port: int, axis: int, state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_E3_WR3 of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeWR3_async(self, port: int, axis: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeWR3, without timeout: Writes MOTION_E3_WR3 of an axis (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            axis (int): 0..3, sent as the one-hot mask 1 << axis
+            state (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_writeWR4(self, port: int, state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_E4_WR4 of the chip (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            state (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeWR4_async(self, port: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeWR4, without timeout: Writes MOTION_E4_WR4 of the chip (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            state (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_writeWR5(self, port: int, state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_E5_WR5 of the chip (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            state (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeWR5_async(self, port: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeWR5, without timeout: Writes MOTION_E5_WR5 of the chip (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            state (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_writeWR6(self, port: int, state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_E6_WR6 of the chip (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            state (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeWR6_async(self, port: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeWR6, without timeout: Writes MOTION_E6_WR6 of the chip (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            state (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _Motion_writeWR7(self, port: int, state: int, timeout: float = 3) -> int:
+        """
+        Writes MOTION_E7_WR7 of the chip (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            state (int): 0..65535
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeWR7_async(self, port: int, state: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeWR7, without timeout: Writes MOTION_E7_WR7 of the chip (one MOTION packet): a 16-bit word.
+        
+        Args:
+            port (int): motion port byte as given (not translated or checked)
+            state (int): 0..65535
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            TypeError: an argument that is not a number.
+            ValueError: a value outside its width, or a byte outside 0..255.
+        """
+    def _getAxisHandle(self, axis: typing.SupportsInt | typing.SupportsIndex) -> MotionAxis:
+        ...
+    @property
+    def axis_1(self) -> MotionAxis:
+        ...
+    @property
+    def axis_2(self) -> MotionAxis:
+        ...
+    @property
+    def axis_3(self) -> MotionAxis:
+        ...
+    @property
+    def axis_4(self) -> MotionAxis:
+        ...
+    @property
+    def circular_interpo(self) -> MotionCircularInterpolation:
+        ...
+    @property
+    def helical_interpo(self) -> MotionHelicalInterpolation:
+        ...
+    @property
+    def linear_interpo(self) -> MotionLinearInterpolation:
+        ...
+    @property
+    def motion_ini(self) -> MotionInifile:
+        ...
+class ThermalModule:
+    """
+    Temperature inputs: what thermocouples and resistance sensors share.
+    """
+    def Thermal_close(self, port: int, timeout: float = 3) -> int:
+        """
+        Closes a thermal port; on KestrelTherm nothing is checked or sent and 0 returned.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Thermal_close_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Thermal_close, without timeout: Closes a thermal port; on KestrelTherm nothing is checked or sent and 0 returned.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+        """
+    def Thermal_getPinMap(self) -> dict:
+        """
+        Thermal_getPinMap(self) -> dict[int, list[tuple[int, int]]]
+        
+        thermal_dict: each thermal port and the (pin-map port, pin) pairs it occupies.
+        """
+    def Thermal_getStatus(self, port: int, channel: int, timeout: float = 3) -> int:
+        """
+        Reads a sensor's status bits (on Plover-Tc bit 0 only: open-circuit fault).
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the status bits
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Thermal_getStatus_async(self, port: int, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Thermal_getStatus, without timeout: Reads a sensor's status bits (on Plover-Tc bit 0 only: open-circuit fault).
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+        
+        Returns:
+            int: the status bits
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+        """
+    def Thermal_open(self, port: int, timeout: float = 3) -> int:
+        """
+        Opens a thermal port (its pins must be Idle, DI or DO, except on KestrelTherm).
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict, or a pin of it serves another function.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Thermal_open_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Thermal_open, without timeout: Opens a thermal port (its pins must be Idle, DI or DO, except on KestrelTherm).
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict, or a pin of it serves another function.
+        """
+    def Thermal_readSensor(self, port: int, channel: int, timeout: float = 3) -> float:
+        """
+        Reads a temperature.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            float: degrees Celsius, rounded to 3 decimal places
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Thermal_readSensor_async(self, port: int, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, float]:
+        """
+        Awaitable Thermal_readSensor, without timeout: Reads a temperature.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+        
+        Returns:
+            float: degrees Celsius, rounded to 3 decimal places
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+        """
+    def _Thermal_loadOffset(self, port: int, channel: int, timeout: float = 3) -> float:
+        """
+        Loads a channel's saved offset.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            float: degrees Celsius
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Thermal_loadOffset_async(self, port: int, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, float]:
+        """
+        Awaitable _Thermal_loadOffset, without timeout: Loads a channel's saved offset.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+        
+        Returns:
+            float: degrees Celsius
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+        """
+    def _Thermal_readOffset(self, port: int, channel: int, timeout: float = 3) -> float:
+        """
+        Reads a channel's offset.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            float: degrees Celsius
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Thermal_readOffset_async(self, port: int, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, float]:
+        """
+        Awaitable _Thermal_readOffset, without timeout: Reads a channel's offset.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+        
+        Returns:
+            float: degrees Celsius
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+        """
+    def _Thermal_saveOffset(self, port: int, channel: int, temperature: float, timeout: float = 3) -> int:
+        """
+        Saves a channel's offset in the device.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            temperature (float): degrees Celsius, sent as a 32-bit float
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int, or temperature not a number.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Thermal_saveOffset_async(self, port: int, channel: int, temperature: float) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Thermal_saveOffset, without timeout: Saves a channel's offset in the device.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            temperature (float): degrees Celsius, sent as a 32-bit float
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int, or temperature not a number.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+        """
+    def _Thermal_setNoiseFilter(self, port: int, channel: int, mode: int, timeout: float = 3) -> int:
+        """
+        Sets the mains filter of a channel.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            mode (int): 0: 60 Hz (device default), 1: 50 Hz
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port, channel or mode is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            ThermalModeNotVaildError: mode is not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Thermal_setNoiseFilter_async(self, port: int, channel: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Thermal_setNoiseFilter, without timeout: Sets the mains filter of a channel.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            mode (int): 0: 60 Hz (device default), 1: 50 Hz
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port, channel or mode is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            ThermalModeNotVaildError: mode is not 0 or 1.
+        """
+    def _Thermal_writeOffset(self, port: int, channel: int, temperature: float, timeout: float = 3) -> int:
+        """
+        Sets a channel's offset.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            temperature (float): degrees Celsius, sent as a 32-bit float
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int, or temperature not a number.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Thermal_writeOffset_async(self, port: int, channel: int, temperature: float) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Thermal_writeOffset, without timeout: Sets a channel's offset.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            temperature (float): degrees Celsius, sent as a 32-bit float
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int, or temperature not a number.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+        """
+    def _checkThermalChipSelect(self, cs: typing.Any) -> bool:
+        ...
+    def _checkThermalPort(self, port: typing.Any) -> bool:
+        ...
+class AHRSModule:
+    """
+    The attitude sensor of HeronAinImu: orientation and acceleration estimated on the device.
+    """
+    def AHRS_close(self, port: int, timeout: float = 3) -> int:
+        """
+        Closes the inertial unit.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AHRS_close_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AHRS_close, without timeout: Closes the inertial unit.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+        """
+    def AHRS_getEstimate(self, port: int, mode: int, timeout: float = 3) -> list[float]:
+        """
+        Reads the current estimate.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            mode (int): 0: orientation, 1: acceleration, 2: both
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[float]: mode 0: roll, pitch, yaw in degrees; 1: three accelerations as the device gives them; 2: the three angles, then the three accelerations; 4 decimal places
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict, or mode is not 0..2.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AHRS_getEstimate_async(self, port: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[float]]:
+        """
+        Awaitable AHRS_getEstimate, without timeout: Reads the current estimate.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            mode (int): 0: orientation, 1: acceleration, 2: both
+        
+        Returns:
+            list[float]: mode 0: roll, pitch, yaw in degrees; 1: three accelerations as the device gives them; 2: the three angles, then the three accelerations; 4 decimal places
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict, or mode is not 0..2.
+        """
+    def AHRS_open(self, port: int, timeout: float = 3) -> int:
+        """
+        Opens the inertial unit.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AHRS_open_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AHRS_open, without timeout: Opens the inertial unit.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+        """
+    def AHRS_reset(self, port: int, timeout: float = 3) -> int:
+        """
+        Resets the estimator.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AHRS_reset_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AHRS_reset, without timeout: Resets the estimator.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+        """
+    def AHRS_setSamplingPeriod(self, port: int, sampling_period: float, timeout: float = 3) -> int:
+        """
+        Sets the estimator's period; gravity 9.81 and z offset 0.001 go with it.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            sampling_period (float): seconds, sent as a 32-bit float
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or a value not a number.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AHRS_setSamplingPeriod_async(self, port: int, sampling_period: float) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AHRS_setSamplingPeriod, without timeout: Sets the estimator's period; gravity 9.81 and z offset 0.001 go with it.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            sampling_period (float): seconds, sent as a 32-bit float
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or a value not a number.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+        """
+    def AHRS_start(self, port: int, timeout: float = 3) -> int:
+        """
+        Starts the estimator (both estimates); sent without waiting for a reply.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AHRS_start_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AHRS_start, without timeout: Starts the estimator (both estimates); sent without waiting for a reply.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+        """
+    def AHRS_stop(self, port: int, timeout: float = 3) -> int:
+        """
+        Stops the estimator.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def AHRS_stop_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AHRS_stop, without timeout: Stops the estimator.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+        """
+    def _AHRS_VQF_setTau(self, port: int, accelerator_decay_time: float, magnetometer_decay_time: float, timeout: float = 3) -> int:
+        """
+        Sets the filter's decay times.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            accelerator_decay_time (float): seconds
+            magnetometer_decay_time (float): seconds
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or a value not a number.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        
+        _AHRS_VQF_setTau(self, port: int, accelerator_decay_time: float, magnetometer_decay_time: float) -> collections.abc.Coroutine[typing.Any, typing.Any, int]
+        
+        Awaitable _AHRS_VQF_setTau, without timeout: Sets the filter's decay times.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            accelerator_decay_time (float): seconds
+            magnetometer_decay_time (float): seconds
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or a value not a number.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+        """
+    def _AHRS_setGeneral(self, port: int, gravity: float, dt: float, z_offset: float, timeout: float = 3) -> int:
+        """
+        Sets gravity, the period and the z offset of the estimator.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            gravity (float): m/s^2
+            dt (float): seconds
+            z_offset (float): z offset
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or a value not a number.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _AHRS_setGeneral_async(self, port: int, gravity: float, dt: float, z_offset: float) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _AHRS_setGeneral, without timeout: Sets gravity, the period and the z offset of the estimator.
+        
+        Args:
+            port (int): 0, the key of ahrs_dict
+            gravity (float): m/s^2
+            dt (float): seconds
+            z_offset (float): z offset
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or a value not a number.
+            AHRSPortNotAvaliableError: port is not a key of ahrs_dict.
+        """
+    def _checkAHRSMode(self, mode: typing.Any) -> bool:
+        ...
+    def _checkAHRSPort(self, port: typing.Any) -> bool:
+        ...
+    def _convertModeToMask(self, mode: typing.Any) -> int:
+        ...
 class AI24BitModule:
     """
     24-bit current and voltage inputs of KestrelCin and KestrelCvin.
@@ -3200,6 +10287,582 @@ class AOModule:
     @property
     def ao_volt_min(self) -> int:
         ...
+class CANModule:
+    """
+    The device's CAN controller: open, bus speed, receive filters, start, write and read frames, stop, close; received frames are streamed by the device onto one queue.
+    """
+    @staticmethod
+    def _checkCANDataRangeAndLength(data: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkCANSpeed(speed: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkCANTXIndex(mode: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkCANTXPriority(mode: typing.Any) -> bool:
+        ...
+    def CAN_close(self, port: int, timeout: float = 3) -> int:
+        """
+        Stops and closes the controller; when the stop fails, returns its code and sends no close.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def CAN_close_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable CAN_close, without timeout: Stops and closes the controller; when the stop fails, returns its code and sends no close.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def CAN_getPort(self) -> list[int]:
+        """
+        The CAN ports; nothing is sent.
+        
+        Returns:
+            list[int]: the keys of can_dict
+        """
+    def CAN_getPort_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable CAN_getPort, without timeout: The CAN ports; nothing is sent.
+        
+        Returns:
+            list[int]: the keys of can_dict
+        """
+    def CAN_open(self, port: int, timeout: float = 3) -> int:
+        """
+        Opens the controller after reading the modes of its pins; the first open after a close lets the stream thread run.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict, or (after the pin-mode read) a pin index of the bus is in a mode other than Idle, DI or DO on one of the bus's digital ports.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def CAN_open_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable CAN_open, without timeout: Opens the controller after reading the modes of its pins; the first open after a close lets the stream thread run.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict, or (after the pin-mode read) a pin index of the bus is in a mode other than Idle, DI or DO on one of the bus's digital ports.
+        """
+    def CAN_read(self, port: int, num_frames: int, delay: float = 0.005) -> list[CANFrame]:
+        """
+        Takes received frames (one queue for the controller). The blocking method waits until num_frames are there while the controller is open (closed: what is there, at once); the awaitable twin takes what is there, up to num_frames, without waiting.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            num_frames (int): how many frames; -1 for all that are there
+            delay (float): kept for the interface; a frame wakes the reader at once (default 0.005)
+        
+        Returns:
+            list[CANFrame]: the frames, oldest first
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or num_frames is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def CAN_read_async(self, port: int, num_frames: int, delay: float = 0.005) -> collections.abc.Coroutine[typing.Any, typing.Any, list[CANFrame]]:
+        """
+        Awaitable CAN_read, without timeout: Takes received frames (one queue for the controller). The blocking method waits until num_frames are there while the controller is open (closed: what is there, at once); the awaitable twin takes what is there, up to num_frames, without waiting.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            num_frames (int): how many frames; -1 for all that are there
+            delay (float): kept for the interface; a frame wakes the reader at once (default 0.005)
+        
+        Returns:
+            list[CANFrame]: the frames, oldest first
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or num_frames is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def CAN_setRXFilterOrMask(self, port: int, index: int, id_: int, remote: bool = False, extended_id: bool = False, timeout: float = 3) -> int:
+        """
+        Writes one receive filter or mask as a frame's identifier word.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            index (int): filter or mask number, the firmware's (not checked)
+            id_ (int): identifier bits
+            remote (bool): the remote bit (default False)
+            extended_id (bool): a 29-bit identifier (default False)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or id_ is not an int, or remote or extended_id not a bool.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def CAN_setRXFilterOrMask_async(self, port: int, index: int, id_: int, remote: bool = False, extended_id: bool = False) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable CAN_setRXFilterOrMask, without timeout: Writes one receive filter or mask as a frame's identifier word.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            index (int): filter or mask number, the firmware's (not checked)
+            id_ (int): identifier bits
+            remote (bool): the remote bit (default False)
+            extended_id (bool): a 29-bit identifier (default False)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or id_ is not an int, or remote or extended_id not a bool.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def CAN_setRXFilteringOn(self, port: int, on_off: bool, timeout: float = 3) -> int:
+        """
+        Turns the receive filters on or off.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            on_off (bool): True: only frames that pass the filters are received
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or the flag not a bool.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def CAN_setRXFilteringOn_async(self, port: int, on_off: bool) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable CAN_setRXFilteringOn, without timeout: Turns the receive filters on or off.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            on_off (bool): True: only frames that pass the filters are received
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or the flag not a bool.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def CAN_setSpeed(self, port: int, speed_mode: int, timeout: float = 3) -> int:
+        """
+        Sets the bus speed.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            speed_mode (int): 0..3, passed to the firmware as it is
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or speed_mode is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            CANSpeedNotVaildError: speed_mode not in 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def CAN_setSpeed_async(self, port: int, speed_mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable CAN_setSpeed, without timeout: Sets the bus speed.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            speed_mode (int): 0..3, passed to the firmware as it is
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or speed_mode is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            CANSpeedNotVaildError: speed_mode not in 0..3.
+        """
+    def CAN_start(self, port: int, timeout: float = 3) -> int:
+        """
+        Starts the controller. The blocking method sends START_CAN as an exchange and waits for an answer the firmware gives as a stream record, so it ends in ReceivePacketTimeoutError after its timeout; the awaitable twin sends and returns 0 at once.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def CAN_start_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable CAN_start, without timeout: Starts the controller. The blocking method sends START_CAN as an exchange and waits for an answer the firmware gives as a stream record, so it ends in ReceivePacketTimeoutError after its timeout; the awaitable twin sends and returns 0 at once.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def CAN_stop(self, port: int, timeout: float = 3) -> int:
+        """
+        Stops the controller.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def CAN_stop_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable CAN_stop, without timeout: Stops the controller.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def CAN_write(self, port: int, id_: int, data: list[int] | None, remote: bool = False, extended_id: bool = False, timeout: float = 3) -> int:
+        """
+        Writes one frame (TX index 0).
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            id_ (int): identifier, 11 or 29 bits
+            data (list[int] | None): up to 8 bytes; ignored (eight zeros) for a remote frame
+            remote (bool): a remote frame (default False)
+            extended_id (bool): a 29-bit identifier (default False)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or id_ not an int, remote or extended_id not a bool, data not a list.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            CANDataLengthNotVaildError: more than 8 data bytes.
+            InputDataNotInRangeError: a data byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def CAN_write_async(self, port: int, id_: int, data: list[int] | None, remote: bool = False, extended_id: bool = False) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable CAN_write, without timeout: Writes one frame (TX index 0).
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            id_ (int): identifier, 11 or 29 bits
+            data (list[int] | None): up to 8 bytes; ignored (eight zeros) for a remote frame
+            remote (bool): a remote frame (default False)
+            extended_id (bool): a 29-bit identifier (default False)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or id_ not an int, remote or extended_id not a bool, data not a list.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            CANDataLengthNotVaildError: more than 8 data bytes.
+            InputDataNotInRangeError: a data byte outside 0..255.
+        """
+    def _CAN_free(self) -> None:
+        """
+        Ends the stream thread (the model's close does this and joins it).
+        """
+    def _CAN_getCounters(self, port: int, timeout: float = 3) -> list[int]:
+        """
+        Reads the controller's six 32-bit counters.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: six counters, the firmware's order
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _CAN_getCounters_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable _CAN_getCounters, without timeout: Reads the controller's six 32-bit counters.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+        
+        Returns:
+            list[int]: six counters, the firmware's order
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def _CAN_getErrors(self, port: int, timeout: float = 3) -> list[int]:
+        """
+        Reads the controller's error counters.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: [TX error count, RX error count]
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _CAN_getErrors_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable _CAN_getErrors, without timeout: Reads the controller's error counters.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+        
+        Returns:
+            list[int]: [TX error count, RX error count]
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def _CAN_getInterrupts(self, port: int, timeout: float = 3) -> list[int]:
+        """
+        Reads the interrupt words.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: [enabled interrupts, interrupt state, error state]
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _CAN_getInterrupts_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable _CAN_getInterrupts, without timeout: Reads the interrupt words.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+        
+        Returns:
+            list[int]: [enabled interrupts, interrupt state, error state]
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def _CAN_getPinMapPort(self, CAN_port: typing.Any) -> list[int]:
+        """
+        The digital ports the bus's pins lie on, each once.
+        """
+    def _CAN_setEnableInterrupt(self, port: int, status: bool, timeout: float = 3) -> int:
+        """
+        Enables or disables the controller's interrupts.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            status (bool): True to enable
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or the flag not a bool.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _CAN_setEnableInterrupt_async(self, port: int, status: bool) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _CAN_setEnableInterrupt, without timeout: Enables or disables the controller's interrupts.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            status (bool): True to enable
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or the flag not a bool.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def _CAN_setRXRollover(self, port: int, status: bool, timeout: float = 3) -> int:
+        """
+        Turns receive-buffer rollover on or off.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            status (bool): True for rollover
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or the flag not a bool.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _CAN_setRXRollover_async(self, port: int, status: bool) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _CAN_setRXRollover, without timeout: Turns receive-buffer rollover on or off.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            status (bool): True for rollover
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or the flag not a bool.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+        """
+    def _CAN_setTXPriority(self, port: int, tx_mode: int, priority_mode: int, timeout: float = 3) -> int:
+        """
+        Would set a TX buffer's priority; its mode check is reached with one argument too many, so every call with a good port ends in TypeError and nothing is sent.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            tx_mode (int): TX buffer 0..2
+            priority_mode (int): 0..3
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            TypeError: any call with a good port (the mode check's argument count).
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _CAN_setTXPriority_async(self, port: int, tx_mode: int, priority_mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _CAN_setTXPriority, without timeout: Would set a TX buffer's priority; its mode check is reached with one argument too many, so every call with a good port ends in TypeError and nothing is sent.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            tx_mode (int): TX buffer 0..2
+            priority_mode (int): 0..3
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            CANPortNotAvaliableError: port is not a key of can_dict.
+            TypeError: any call with a good port (the mode check's argument count).
+        """
+    def _canFrameQueueSize(self) -> int:
+        """
+        Frames waiting in the frame queue.
+        """
+    def _canGateOpen(self) -> bool:
+        """
+        Whether the stream thread may pass its gate.
+        """
+    def _checkCANPinState_(self, port: int, allow_state: list[str], timeout: float = 3) -> None:
+        """
+        Reads the modes of the digital ports the bus's pins lie on and tests every pin of the bus against each port's modes.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            allow_state (list[str]): mode names that count as free, e.g. ['Idle']
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            None: nothing; raises on a busy pin
+        
+        Raises, before anything is sent:
+            CANPortNotAvaliableError: a pin in a mode not in allow_state (after the read).
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _checkCANPinState_async(self, port: int, allow_state: list[str]) -> collections.abc.Coroutine[typing.Any, typing.Any, None]:
+        """
+        Awaitable _checkCANPinState_, without timeout: Reads the modes of the digital ports the bus's pins lie on and tests every pin of the bus against each port's modes.
+        
+        Args:
+            port (int): CAN port, a key of can_dict
+            allow_state (list[str]): mode names that count as free, e.g. ['Idle']
+        
+        Returns:
+            None: nothing; raises on a busy pin
+        
+        Raises, before anything is sent:
+            CANPortNotAvaliableError: a pin in a mode not in allow_state (after the read).
+        """
+    def _checkCANPort(self, port: typing.Any) -> bool:
+        ...
+    @property
+    def can_killed(self) -> bool:
+        """
+        True once the stream thread ends.
+        """
+    @property
+    def can_open_flag(self) -> bool:
+        """
+        True from a first open to the matching close.
+        """
 class CounterModule:
     """
     The device's two pulse counters; the host reads 16 bits.
@@ -4740,6 +12403,2470 @@ class I2CModule:
         """
     def _checkI2CPort(self, port: typing.Any) -> None:
         ...
+class MCX514Module(MCX514Driver):
+    """
+    Axes of the MCX514 pulse chip: configuration, moves, reference search, capture, servo, interpolation and the motion ini file.  Composite calls run every step and return the greatest status from 0.
+    """
+    @staticmethod
+    def _checkMCX514AccelerationMode(status: typing.Any) -> None:
+        ...
+    @staticmethod
+    def _checkMCX514Axis(axis: typing.Any, mode: bool = True) -> None:
+        ...
+    @staticmethod
+    def _checkMCX514BreakPointMode(status: typing.Any) -> None:
+        ...
+    @staticmethod
+    def _checkMCX514CaptureMode(status: typing.Any) -> None:
+        ...
+    @staticmethod
+    def _checkMCX514CaptureType(status: typing.Any) -> None:
+        ...
+    @staticmethod
+    def _checkMCX514Direction(direction: typing.Any) -> None:
+        ...
+    @staticmethod
+    def _checkMCX514Enable(status: typing.Any) -> None:
+        ...
+    @staticmethod
+    def _checkMCX514OperationMode(status: typing.Any) -> None:
+        ...
+    @staticmethod
+    def _checkMCX514Polarity(status: typing.Any) -> None:
+        ...
+    @staticmethod
+    def _checkMCX514SearchDirection(direction: typing.Any) -> None:
+        ...
+    @staticmethod
+    def _checkMCX514SearchType(search_type: typing.Any) -> None:
+        ...
+    @staticmethod
+    def _checkMCX514StepperOutput(status: typing.Any) -> None:
+        ...
+    @staticmethod
+    def _checkMCX514StopMode(mode: typing.Any) -> None:
+        ...
+    def Motion_cfg2AxisLinearInterpo(self, port: int, axis1: int, dest_posi1: int, axis2: int, dest_posi2: int, speed: int = 10000, accel: int = 100000, decel: int = 100000, timeout: float = 3) -> int:
+        """
+        Configures a two-axis straight line.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis1 (int): 0..3
+            dest_posi1 (int): counts
+            axis2 (int): 0..3
+            dest_posi2 (int): counts
+            speed (int): vector speed, counts/s (default 10000)
+            accel (int): counts/s2 (default 100000)
+            decel (int): counts/s2 (default 100000)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, each axis as usual)
+            InputTypeNotCorrectError: a destination, speed, accel or decel that is not an int.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_cfg2AxisLinearInterpo_async(self, port: int, axis1: int, dest_posi1: int, axis2: int, dest_posi2: int, speed: int = 10000, accel: int = 100000, decel: int = 100000) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_cfg2AxisLinearInterpo, without timeout: Configures a two-axis straight line.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis1 (int): 0..3
+            dest_posi1 (int): counts
+            axis2 (int): 0..3
+            dest_posi2 (int): counts
+            speed (int): vector speed, counts/s (default 10000)
+            accel (int): counts/s2 (default 100000)
+            decel (int): counts/s2 (default 100000)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, each axis as usual)
+            InputTypeNotCorrectError: a destination, speed, accel or decel that is not an int.
+        """
+    def Motion_cfg3AxisLinearInterpo(self, port: int, axis1: int, dest_posi1: int, axis2: int, dest_posi2: int, axis3: int, dest_posi3: int, speed: int = 10000, accel: int = 100000, decel: int = 100000, timeout: float = 3) -> int:
+        """
+        Configures a three-axis straight line.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis1 (int): 0..3
+            dest_posi1 (int): counts
+            axis2 (int): 0..3
+            dest_posi2 (int): counts
+            axis3 (int): 0..3
+            dest_posi3 (int): counts
+            speed (int): vector speed, counts/s (default 10000)
+            accel (int): counts/s2 (default 100000)
+            decel (int): counts/s2 (default 100000)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, each axis as usual)
+            InputTypeNotCorrectError: a destination, speed, accel or decel that is not an int.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_cfg3AxisLinearInterpo_async(self, port: int, axis1: int, dest_posi1: int, axis2: int, dest_posi2: int, axis3: int, dest_posi3: int, speed: int = 10000, accel: int = 100000, decel: int = 100000) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_cfg3AxisLinearInterpo, without timeout: Configures a three-axis straight line.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis1 (int): 0..3
+            dest_posi1 (int): counts
+            axis2 (int): 0..3
+            dest_posi2 (int): counts
+            axis3 (int): 0..3
+            dest_posi3 (int): counts
+            speed (int): vector speed, counts/s (default 10000)
+            accel (int): counts/s2 (default 100000)
+            decel (int): counts/s2 (default 100000)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, each axis as usual)
+            InputTypeNotCorrectError: a destination, speed, accel or decel that is not an int.
+        """
+    def Motion_cfg4AxisLinearInterpo(self, port: int, axis1: int, dest_posi1: int, axis2: int, dest_posi2: int, axis3: int, dest_posi3: int, axis4: int, dest_posi4: int, speed: int, accel: int = 100000, decel: int = 100000, timeout: float = 3) -> int:
+        """
+        Configures a four-axis straight line.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis1 (int): 0..3
+            dest_posi1 (int): counts
+            axis2 (int): 0..3
+            dest_posi2 (int): counts
+            axis3 (int): 0..3
+            dest_posi3 (int): counts
+            axis4 (int): 0..3
+            dest_posi4 (int): counts
+            speed (int): vector speed, counts/s (no default)
+            accel (int): counts/s2 (default 100000)
+            decel (int): counts/s2 (default 100000)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, each axis as usual)
+            InputTypeNotCorrectError: a destination, speed, accel or decel that is not an int.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_cfg4AxisLinearInterpo_async(self, port: int, axis1: int, dest_posi1: int, axis2: int, dest_posi2: int, axis3: int, dest_posi3: int, axis4: int, dest_posi4: int, speed: int, accel: int = 100000, decel: int = 100000) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_cfg4AxisLinearInterpo, without timeout: Configures a four-axis straight line.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis1 (int): 0..3
+            dest_posi1 (int): counts
+            axis2 (int): 0..3
+            dest_posi2 (int): counts
+            axis3 (int): 0..3
+            dest_posi3 (int): counts
+            axis4 (int): 0..3
+            dest_posi4 (int): counts
+            speed (int): vector speed, counts/s (no default)
+            accel (int): counts/s2 (default 100000)
+            decel (int): counts/s2 (default 100000)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, each axis as usual)
+            InputTypeNotCorrectError: a destination, speed, accel or decel that is not an int.
+        """
+    def Motion_cfgAlarm(self, port: int, axis: int, en_alarm: int, alarm_polarity: int, timeout: float = 3) -> int:
+        """
+        Enables the servo alarm input and sets its polarity.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            en_alarm (int): 0 or 1
+            alarm_polarity (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionEnableError, MotionPolarityError: not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_cfgAlarm_async(self, port: int, axis: int, en_alarm: int, alarm_polarity: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_cfgAlarm, without timeout: Enables the servo alarm input and sets its polarity.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            en_alarm (int): 0 or 1
+            alarm_polarity (int): 0 or 1
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionEnableError, MotionPolarityError: not 0 or 1.
+        """
+    def Motion_cfgAxis(self, port: int, axis: int, stepper_output: int, axis_dir: int, encoder_dir: int, servo_on_polarity: int, timeout: float = 3) -> int:
+        """
+        Sets the pulse output form, directions and servo-on polarity.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            stepper_output (int): 0 step/dir (one pulse), 1 CW/CCW (two pulse)
+            axis_dir (int): 0 or 1: inverse motion direction
+            encoder_dir (int): 0 or 1: inverse encoder direction
+            servo_on_polarity (int): 0 active low, 1 active high
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionStepperOutputError, MotionDirectionError, MotionPolarityError: a value that is not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_cfgAxisMove(self, port: int, axis: int, mode: int, target_posi: int = 0, velo: int = 10000, accel: int = 100000, decel: int = 100000, timeout: float = 3) -> int:
+        """
+        Sets target, speed and acceleration of an axis's next move.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            mode (int): 0 absolute, 1 relative, 2 velocity
+            target_posi (int): counts (default 0)
+            velo (int): counts/s (default 10000)
+            accel (int): counts/s2 (default 100000)
+            decel (int): counts/s2 (default 100000)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionOperationModeError: mode is not 0..2.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_cfgAxisMove_async(self, port: int, axis: int, mode: int, target_posi: int = 0, velo: int = 10000, accel: int = 100000, decel: int = 100000) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_cfgAxisMove, without timeout: Sets target, speed and acceleration of an axis's next move.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            mode (int): 0 absolute, 1 relative, 2 velocity
+            target_posi (int): counts (default 0)
+            velo (int): counts/s (default 10000)
+            accel (int): counts/s2 (default 100000)
+            decel (int): counts/s2 (default 100000)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionOperationModeError: mode is not 0..2.
+        """
+    def Motion_cfgAxis_async(self, port: int, axis: int, stepper_output: int, axis_dir: int, encoder_dir: int, servo_on_polarity: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_cfgAxis, without timeout: Sets the pulse output form, directions and servo-on polarity.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            stepper_output (int): 0 step/dir (one pulse), 1 CW/CCW (two pulse)
+            axis_dir (int): 0 or 1: inverse motion direction
+            encoder_dir (int): 0 or 1: inverse encoder direction
+            servo_on_polarity (int): 0 active low, 1 active high
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionStepperOutputError, MotionDirectionError, MotionPolarityError: a value that is not 0 or 1.
+        """
+    def Motion_cfgBreakPoint(self, port: int, axis: int, mode: int, breakpoint_polarity: int, start_posi: int, pulse_width: int, pulse_period: int, pulse_number: int, timeout: float = 3) -> int:
+        """
+        Configures the break point pulse train (SYNC0).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            mode (int): 0 absolute, 1 relative start position
+            breakpoint_polarity (int): 0 or 1
+            start_posi (int): counts
+            pulse_width (int): 16-bit
+            pulse_period (int): 16-bit
+            pulse_number (int): 16-bit
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionBreakPointModeError: mode is not 0 or 1.
+            MotionPolarityError: breakpoint_polarity is not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_cfgBreakPoint_async(self, port: int, axis: int, mode: int, breakpoint_polarity: int, start_posi: int, pulse_width: int, pulse_period: int, pulse_number: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_cfgBreakPoint, without timeout: Configures the break point pulse train (SYNC0).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            mode (int): 0 absolute, 1 relative start position
+            breakpoint_polarity (int): 0 or 1
+            start_posi (int): counts
+            pulse_width (int): 16-bit
+            pulse_period (int): 16-bit
+            pulse_number (int): 16-bit
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionBreakPointModeError: mode is not 0 or 1.
+            MotionPolarityError: breakpoint_polarity is not 0 or 1.
+        """
+    def Motion_cfgCapture(self, port: int, axis: int, capture_type: int, mode: int, timeout: float = 3) -> int:
+        """
+        Sets what SYNC3 captures on the input edge.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            capture_type (int): 0 rising, 1 falling edge
+            mode (int): 0 logical, 1 encoder position
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionCaptureTypeError, MotionCaptureModeError: not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_cfgCapture_async(self, port: int, axis: int, capture_type: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_cfgCapture, without timeout: Sets what SYNC3 captures on the input edge.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            capture_type (int): 0 rising, 1 falling edge
+            mode (int): 0 logical, 1 encoder position
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionCaptureTypeError, MotionCaptureModeError: not 0 or 1.
+        """
+    def Motion_cfgCircularInterpo(self, port: int, x_axis: int, y_axis: int, center_point_x: int, center_point_y: int, finish_point_x: int, finish_point_y: int, dir: int, speed: int = 10000, accel: int = 100000, decel: int = 100000, timeout: float = 3) -> int:
+        """
+        Configures a circular arc on two axes.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            x_axis (int): 0..3
+            y_axis (int): 0..3
+            center_point_x (int): relative counts
+            center_point_y (int): relative counts
+            finish_point_x (int): relative counts
+            finish_point_y (int): relative counts
+            dir (int): 0 clockwise, 1 counter-clockwise
+            speed (int): vector speed, counts/s (default 10000)
+            accel (int): counts/s2 (default 100000)
+            decel (int): counts/s2 (default 100000)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axes as usual)
+            MotionDirectionError: dir is not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_cfgCircularInterpo_async(self, port: int, x_axis: int, y_axis: int, center_point_x: int, center_point_y: int, finish_point_x: int, finish_point_y: int, dir: int, speed: int = 10000, accel: int = 100000, decel: int = 100000) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_cfgCircularInterpo, without timeout: Configures a circular arc on two axes.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            x_axis (int): 0..3
+            y_axis (int): 0..3
+            center_point_x (int): relative counts
+            center_point_y (int): relative counts
+            finish_point_x (int): relative counts
+            finish_point_y (int): relative counts
+            dir (int): 0 clockwise, 1 counter-clockwise
+            speed (int): vector speed, counts/s (default 10000)
+            accel (int): counts/s2 (default 100000)
+            decel (int): counts/s2 (default 100000)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axes as usual)
+            MotionDirectionError: dir is not 0 or 1.
+        """
+    def Motion_cfgEncoder(self, port: int, axis: int, encoder_z_polarity: int, timeout: float = 3) -> int:
+        """
+        Sets the encoder Z polarity (WR2 bit 4: the blocking form writes its inverse).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            encoder_z_polarity (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionPolarityError: not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_cfgEncoder_async(self, port: int, axis: int, encoder_z_polarity: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_cfgEncoder, without timeout: Sets the encoder Z polarity (WR2 bit 4: the blocking form writes its inverse).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            encoder_z_polarity (int): 0 or 1
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionPolarityError: not 0 or 1.
+        """
+    def Motion_cfgFindRef(self, port: int, axis: int, search_type: int, search_dir: int, search_velo: int = 10000, search_accle: int = 100000, approach_velo_percent: int | float = 20, en_reset_posi: int = 0, offset_posi: int = 0, timeout: float = 3) -> int:
+        """
+        Configures the automatic reference search.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            search_type (int): 0 home, 1 index, 2 limit
+            search_dir (int): 0 or 1
+            search_velo (int): counts/s (default 10000)
+            search_accle (int): counts/s2 (default 100000)
+            approach_velo_percent (int | float): percent of search_velo (default 20)
+            en_reset_posi (int): 0 or 1 (default 0)
+            offset_posi (int): counts (default 0)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionSearchTypeError: search_type not 0..2 or search_dir not 0 or 1.
+            MotionEnableError: en_reset_posi not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_cfgFindRef_async(self, port: int, axis: int, search_type: int, search_dir: int, search_velo: int = 10000, search_accle: int = 100000, approach_velo_percent: int | float = 20, en_reset_posi: int = 0, offset_posi: int = 0) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_cfgFindRef, without timeout: Configures the automatic reference search.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            search_type (int): 0 home, 1 index, 2 limit
+            search_dir (int): 0 or 1
+            search_velo (int): counts/s (default 10000)
+            search_accle (int): counts/s2 (default 100000)
+            approach_velo_percent (int | float): percent of search_velo (default 20)
+            en_reset_posi (int): 0 or 1 (default 0)
+            offset_posi (int): counts (default 0)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionSearchTypeError: search_type not 0..2 or search_dir not 0 or 1.
+            MotionEnableError: en_reset_posi not 0 or 1.
+        """
+    def Motion_cfgHelicalInterpo(self, port: int, center_point_x: int, center_point_y: int, finish_point_x: int, finish_point_y: int, en_axis3: int, pitch_axis3: int, en_axis4: int, pitch_axis4: int, rotation_number: int, speed: int, dir: int, calculation_timeout: int, timeout: float = 3) -> int:
+        """
+        Configures a helix on axes 0 and 1 (2 and 3 following) and waits for the chip's calculation.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            center_point_x (int): counts
+            center_point_y (int): counts
+            finish_point_x (int): counts
+            finish_point_y (int): counts
+            en_axis3 (int): 0 or 1
+            pitch_axis3 (int): counts
+            en_axis4 (int): 0 or 1
+            pitch_axis4 (int): counts
+            rotation_number (int): turns
+            speed (int): counts/s
+            dir (int): 0 clockwise, 1 counter-clockwise
+            calculation_timeout (int): milliseconds; the wait ends then without an error
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port as usual)
+            MotionEnableError: en_axis3 or en_axis4 not 0 or 1.
+            MotionDirectionError: dir is not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_cfgHelicalInterpo_async(self, port: int, center_point_x: int, center_point_y: int, finish_point_x: int, finish_point_y: int, en_axis3: int, pitch_axis3: int, en_axis4: int, pitch_axis4: int, rotation_number: int, speed: int, dir: int, calculation_timeout: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_cfgHelicalInterpo, without timeout: Configures a helix on axes 0 and 1 (2 and 3 following) and waits for the chip's calculation.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            center_point_x (int): counts
+            center_point_y (int): counts
+            finish_point_x (int): counts
+            finish_point_y (int): counts
+            en_axis3 (int): 0 or 1
+            pitch_axis3 (int): counts
+            en_axis4 (int): 0 or 1
+            pitch_axis4 (int): counts
+            rotation_number (int): turns
+            speed (int): counts/s
+            dir (int): 0 clockwise, 1 counter-clockwise
+            calculation_timeout (int): milliseconds; the wait ends then without an error
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port as usual)
+            MotionEnableError: en_axis3 or en_axis4 not 0 or 1.
+            MotionDirectionError: dir is not 0 or 1.
+        """
+    def Motion_cfgHome(self, port: int, axis: int, en_home: int, home_polarity: int, timeout: float = 3) -> int:
+        """
+        Enables the home input and sets its polarity.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            en_home (int): 0 or 1
+            home_polarity (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionEnableError, MotionPolarityError: not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_cfgHome_async(self, port: int, axis: int, en_home: int, home_polarity: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_cfgHome, without timeout: Enables the home input and sets its polarity.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            en_home (int): 0 or 1
+            home_polarity (int): 0 or 1
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionEnableError, MotionPolarityError: not 0 or 1.
+        """
+    def Motion_cfgInposi(self, port: int, axis: int, en_inposi: int, inposi_polarity: int, timeout: float = 3) -> int:
+        """
+        Enables the in-position input and sets its polarity.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            en_inposi (int): 0 or 1
+            inposi_polarity (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionEnableError, MotionPolarityError: not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_cfgInposi_async(self, port: int, axis: int, en_inposi: int, inposi_polarity: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_cfgInposi, without timeout: Enables the in-position input and sets its polarity.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            en_inposi (int): 0 or 1
+            inposi_polarity (int): 0 or 1
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionEnableError, MotionPolarityError: not 0 or 1.
+        """
+    def Motion_cfgJerkAndAccelMode(self, port: int, axis: int, jerk: int, accel_mode: int, timeout: float = 3) -> int:
+        """
+        Stores jerk and acceleration mode; nothing is sent.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            jerk (int): S-curve jerk
+            accel_mode (int): 0 trapezoidal, 1 or 2 S curve
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionAccelerationModeError: not 0..2.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_cfgJerkAndAccelMode_async(self, port: int, axis: int, jerk: int, accel_mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_cfgJerkAndAccelMode, without timeout: Stores jerk and acceleration mode; nothing is sent.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            jerk (int): S-curve jerk
+            accel_mode (int): 0 trapezoidal, 1 or 2 S curve
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionAccelerationModeError: not 0..2.
+        """
+    def Motion_cfgLimit(self, port: int, axis: int, en_forward: int, en_reverse: int, limit_polarity: int, timeout: float = 3) -> int:
+        """
+        Enables the hardware limits and sets their polarity.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            en_forward (int): 0 or 1
+            en_reverse (int): 0 or 1
+            limit_polarity (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionEnableError, MotionPolarityError: not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_cfgLimit_async(self, port: int, axis: int, en_forward: int, en_reverse: int, limit_polarity: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_cfgLimit, without timeout: Enables the hardware limits and sets their polarity.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            en_forward (int): 0 or 1
+            en_reverse (int): 0 or 1
+            limit_polarity (int): 0 or 1
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionEnableError, MotionPolarityError: not 0 or 1.
+        """
+    def Motion_checkRef(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Whether the search is over (RR0).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0 while searching, 1 when found
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_checkRef_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_checkRef, without timeout: Whether the search is over (RR0).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+        
+        Returns:
+            int: 0 while searching, 1 when found
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+        """
+    def Motion_close(self, port: int, timeout: float = 3) -> int:
+        """
+        Checks the port; nothing is sent.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_close_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_close, without timeout: Checks the port; nothing is sent.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+        """
+    def Motion_enableBreakPoint(self, port: int, axis: int, en_break: int, timeout: float = 3) -> int:
+        """
+        Enables or disables the break point (SYNC0).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            en_break (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionEnableError: not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_enableBreakPoint_async(self, port: int, axis: int, en_break: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_enableBreakPoint, without timeout: Enables or disables the break point (SYNC0).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            en_break (int): 0 or 1
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionEnableError: not 0 or 1.
+        """
+    def Motion_enableCapture(self, port: int, axis: int, en_capture: int, timeout: float = 3) -> int:
+        """
+        Enables or disables the capture (SYNC3).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            en_capture (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionEnableError: not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_enableCapture_async(self, port: int, axis: int, en_capture: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_enableCapture, without timeout: Enables or disables the capture (SYNC3).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            en_capture (int): 0 or 1
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionEnableError: not 0 or 1.
+        """
+    def Motion_enableServoOff(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Switches the servo off, then writes the position back.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_enableServoOff_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_enableServoOff, without timeout: Switches the servo off, then writes the position back.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+        """
+    def Motion_enableServoOn(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Switches the servo on, then writes the position back.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_enableServoOn_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_enableServoOn, without timeout: Switches the servo on, then writes the position back.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+        """
+    def Motion_findRef(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Starts the reference search.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_findRef_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_findRef, without timeout: Starts the reference search.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+        """
+    def Motion_getEncoderPosi(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads the encoder (real) position counter; no check.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: signed 32-bit count
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_getEncoderPosi_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_getEncoderPosi, without timeout: Reads the encoder (real) position counter; no check.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+        
+        Returns:
+            int: signed 32-bit count
+        """
+    def Motion_getHomeStatus(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        The home input (RR3 bit 1) after the forward polarity.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0 or 1
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_getHomeStatus_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_getHomeStatus, without timeout: The home input (RR3 bit 1) after the forward polarity.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+        
+        Returns:
+            int: 0 or 1
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+        """
+    def Motion_getLimitStatus(self, port: int, axis: int, timeout: float = 3) -> list[int]:
+        """
+        The limit inputs (RR3 bits 7 and 8).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: [forward hit, reverse hit]
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_getLimitStatus_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable Motion_getLimitStatus, without timeout: The limit inputs (RR3 bits 7 and 8).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+        
+        Returns:
+            list[int]: [forward hit, reverse hit]
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+        """
+    def Motion_getLogicalPosi(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Reads the logical position counter.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: signed 32-bit count
+        
+        Raises, before anything is sent:
+            MotionAxisError: axis is not 0..3 (port not checked).
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_getLogicalPosi_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_getLogicalPosi, without timeout: Reads the logical position counter.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+        
+        Returns:
+            int: signed 32-bit count
+        
+        Raises, before anything is sent:
+            MotionAxisError: axis is not 0..3 (port not checked).
+        """
+    def Motion_getMoveStatus(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Whether the axis's move is over (RR0).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 1 when the move is complete, 0 while driving
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_getMoveStatus_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_getMoveStatus, without timeout: Whether the axis's move is over (RR0).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+        
+        Returns:
+            int: 1 when the move is complete, 0 while driving
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+        """
+    def Motion_loadCfgFile(self, timeout: float = 3) -> int:
+        """
+        Reads the four axes' settings and sends them to motion port 0, axis by axis.
+        
+        Args:
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the first axis's non-zero status
+        
+        Raises, before anything is sent:
+            AttributeError: no file opened yet.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_loadCfgFile_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_loadCfgFile, without timeout: Reads the four axes' settings and sends them to motion port 0, axis by axis.
+        
+        Returns:
+            int: 0, or the first axis's non-zero status
+        
+        Raises, before anything is sent:
+            AttributeError: no file opened yet.
+        """
+    def Motion_open(self, port: int, timeout: float = 3) -> int:
+        """
+        Sets the PIO signals of all four axes (axis byte 15).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_openCfgFile(self, filename: str = 'test.ini') -> int:
+        """
+        Chooses an existing .ini file for save and load.
+        
+        Args:
+            filename (str): an existing file ending in .ini (default 'test.ini')
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            IniFileNotFoundError: no such file.
+            IniFileExtensionNameError: the name does not end in .ini.
+        """
+    def Motion_openCfgFile_async(self, filename: str = 'test.ini') -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_openCfgFile, without timeout: Chooses an existing .ini file for save and load.
+        
+        Args:
+            filename (str): an existing file ending in .ini (default 'test.ini')
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            IniFileNotFoundError: no such file.
+            IniFileExtensionNameError: the name does not end in .ini.
+        """
+    def Motion_open_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_open, without timeout: Sets the PIO signals of all four axes (axis byte 15).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+        """
+    def Motion_overrideAxisAccel(self, port: int, axis: int, new_accel: int, new_decel: int, timeout: float = 3) -> int:
+        """
+        Changes acceleration and deceleration.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            new_accel (int): counts/s2
+            new_decel (int): counts/s2
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_overrideAxisAccel_async(self, port: int, axis: int, new_accel: int, new_decel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_overrideAxisAccel, without timeout: Changes acceleration and deceleration.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            new_accel (int): counts/s2
+            new_decel (int): counts/s2
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+        """
+    def Motion_overrideAxisPosi(self, port: int, axis: int, new_position: int, timeout: float = 3) -> int:
+        """
+        Changes the target position.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            new_position (int): counts
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_overrideAxisPosi_async(self, port: int, axis: int, new_position: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_overrideAxisPosi, without timeout: Changes the target position.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            new_position (int): counts
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+        """
+    def Motion_overrideAxisVelocity(self, port: int, axis: int, new_velo: int, timeout: float = 3) -> int:
+        """
+        Changes the speed; in velocity mode a change of sign reverses through a stop.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            new_velo (int): counts/s, signed
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_overrideAxisVelocity_async(self, port: int, axis: int, new_velo: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_overrideAxisVelocity, without timeout: Changes the speed; in velocity mode a change of sign reverses through a stop.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            new_velo (int): counts/s, signed
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+        """
+    def Motion_readCapturePoint(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        The captured position (multipurpose register 3).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: signed 32-bit count
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_readCapturePoint_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_readCapturePoint, without timeout: The captured position (multipurpose register 3).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+        
+        Returns:
+            int: signed 32-bit count
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+        """
+    def Motion_rstEncoderPosi(self, port: int, axis: int, encoder_posi: int = 0, timeout: float = 3) -> int:
+        """
+        Sets both position counters.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            encoder_posi (int): counts (default 0)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_rstEncoderPosi_async(self, port: int, axis: int, encoder_posi: int = 0) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_rstEncoderPosi, without timeout: Sets both position counters.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            encoder_posi (int): counts (default 0)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+        """
+    def Motion_saveCfgFile(self) -> int:
+        """
+        Writes the four axes' settings to the file.
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            AttributeError: no file opened yet.
+        """
+    def Motion_saveCfgFile_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_saveCfgFile, without timeout: Writes the four axes' settings to the file.
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            AttributeError: no file opened yet.
+        """
+    def Motion_startCircularInterpo(self, port: int, timeout: float = 3) -> int:
+        """
+        Starts the configured arc.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_startCircularInterpo_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_startCircularInterpo, without timeout: Starts the configured arc.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+        """
+    def Motion_startHelicalInterpo(self, port: int, timeout: float = 3) -> int:
+        """
+        Writes the stored helix again and starts it.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_startHelicalInterpo_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_startHelicalInterpo, without timeout: Writes the stored helix again and starts it.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+        """
+    def Motion_startLinearInterpo(self, port: int, timeout: float = 3) -> int:
+        """
+        Starts the configured line (two axes unless set).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_startLinearInterpo_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_startLinearInterpo, without timeout: Starts the configured line (two axes unless set).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+        """
+    def Motion_startMultiAxisMove(self, port: int, axis_list: list[int], timeout: float = 3) -> int:
+        """
+        Writes each listed axis's move and holds its start; the held start's release then raises AttributeError (no axis check of that name in this version).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis_list (list[int]): axes 0..3
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: never returns normally
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_startMultiAxisMove_async(self, port: int, axis_list: list[int]) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_startMultiAxisMove, without timeout: Writes each listed axis's move and holds its start; the held start's release then raises AttributeError (no axis check of that name in this version).
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis_list (list[int]): axes 0..3
+        
+        Returns:
+            int: never returns normally
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+        """
+    def Motion_startSingleAxisMove(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Starts the configured move of one axis.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_startSingleAxisMove_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_startSingleAxisMove, without timeout: Starts the configured move of one axis.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or axis is not an int.
+            MotionPortNotAvaliable: port is not a key of motion_dict.
+            MotionAxisError: axis is not 0..3.
+        """
+    def Motion_stop(self, port: int, axis: int, mode: int, timeout: float = 3) -> int:
+        """
+        Stops an axis: 0 decelerating, 1 at once.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            mode (int): 0 decelerate, 1 instant
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionStopModeError: mode is not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_stop_async(self, port: int, axis: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_stop, without timeout: Stops an axis: 0 decelerating, 1 at once.
+        
+        Args:
+            port (int): motion port, a key of motion_dict (a slot from 1 on Trellis)
+            axis (int): 0..3
+            mode (int): 0 decelerate, 1 instant
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            MotionStopModeError: mode is not 0 or 1.
+        """
+    def _Motion_enableServoOn(self, port: int, axis: int, en_servo_on: int, timeout: float = 3) -> int:
+        """
+        The servo-on output, then the position written back.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            en_servo_on (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_enableServoOn_async(self, port: int, axis: int, en_servo_on: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_enableServoOn, without timeout: The servo-on output, then the position written back.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            en_servo_on (int): 0 or 1
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+        """
+    def _Motion_sendAllConfiguration(self, port: int, axis: int, timeout: float = 3) -> int:
+        """
+        Sends an axis's stored settings to the chip.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_sendAllConfiguration_async(self, port: int, axis: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_sendAllConfiguration, without timeout: Sends an axis's stored settings to the chip.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+        """
+    def _Motion_setAlarmLimitEnable(self, port: int, axis: int, alarm_enable: int, timeout: float = 3) -> int:
+        """
+        WR2 bit 9.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            alarm_enable (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setAlarmLimitEnable_async(self, port: int, axis: int, alarm_enable: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setAlarmLimitEnable, without timeout: WR2 bit 9.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            alarm_enable (int): 0 or 1
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+        """
+    def _Motion_setAlarmPolarity(self, port: int, axis: int, alarm_polarity: int, timeout: float = 3) -> int:
+        """
+        WR2 bit 8.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            alarm_polarity (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setAlarmPolarity_async(self, port: int, axis: int, alarm_polarity: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setAlarmPolarity, without timeout: WR2 bit 8.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            alarm_polarity (int): 0 or 1
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+        """
+    def _Motion_setAutoHome1(self, port: int, axis: int, search_type: int, initial_search_direction: int, final_approach_direction: int, approach_velocity_percent: int | float, offset_position: int, timeout: float = 3) -> int:
+        """
+        Home search mode word 1.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            search_type (int): 0, 1 or 2
+            initial_search_direction (int): 0 or 1
+            final_approach_direction (int): 0 or 1
+            approach_velocity_percent (int | float): percent
+            offset_position (int): counts
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setAutoHome1_async(self, port: int, axis: int, search_type: int, initial_search_direction: int, final_approach_direction: int, approach_velocity_percent: int | float, offset_position: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setAutoHome1, without timeout: Home search mode word 1.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            search_type (int): 0, 1 or 2
+            initial_search_direction (int): 0 or 1
+            final_approach_direction (int): 0 or 1
+            approach_velocity_percent (int | float): percent
+            offset_position (int): counts
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+        """
+    def _Motion_setAutoHome2(self, port: int, axis: int, reset_position_enable: int, timeout: float = 3) -> int:
+        """
+        Home search mode word 2.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            reset_position_enable (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setAutoHome2_async(self, port: int, axis: int, reset_position_enable: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setAutoHome2, without timeout: Home search mode word 2.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            reset_position_enable (int): 0 or 1
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        """
+    def _Motion_setAxisModeAndDirection(self, port: int, axis: int, stepper_output: int, axis_direction: int, timeout: float = 3) -> int:
+        """
+        WR3: pulse form and direction levels; no check.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            stepper_output (int): 0 step/dir (one pulse), 1 CW/CCW (two pulse)
+            axis_direction (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setAxisModeAndDirection_async(self, port: int, axis: int, stepper_output: int, axis_direction: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setAxisModeAndDirection, without timeout: WR3: pulse form and direction levels; no check.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            stepper_output (int): 0 step/dir (one pulse), 1 CW/CCW (two pulse)
+            axis_direction (int): 0 or 1
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        """
+    def _Motion_setEncoderDirection(self, port: int, axis: int, encoder_direction: int, timeout: float = 3) -> int:
+        """
+        WR3 bit 11.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            encoder_direction (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setEncoderDirection_async(self, port: int, axis: int, encoder_direction: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setEncoderDirection, without timeout: WR3 bit 11.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            encoder_direction (int): 0 or 1
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+        """
+    def _Motion_setHomeLimitEnable(self, port: int, axis: int, home_enable: int, timeout: float = 3) -> int:
+        """
+        WR2 bit 3.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            home_enable (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setHomeLimitEnable_async(self, port: int, axis: int, home_enable: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setHomeLimitEnable, without timeout: WR2 bit 3.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            home_enable (int): 0 or 1
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+        """
+    def _Motion_setHomePolarity(self, port: int, axis: int, home_polarity: int, timeout: float = 3) -> int:
+        """
+        WR2 bit 2.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            home_polarity (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setHomePolarity_async(self, port: int, axis: int, home_polarity: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setHomePolarity, without timeout: WR2 bit 2.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            home_polarity (int): 0 or 1
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+        """
+    def _Motion_setInpositionLimitEnable(self, port: int, axis: int, inposition_enable: int, timeout: float = 3) -> int:
+        """
+        WR2 bit 7.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            inposition_enable (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setInpositionLimitEnable_async(self, port: int, axis: int, inposition_enable: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setInpositionLimitEnable, without timeout: WR2 bit 7.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            inposition_enable (int): 0 or 1
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+        """
+    def _Motion_setInpositionPolarity(self, port: int, axis: int, inposition_polarity: int, timeout: float = 3) -> int:
+        """
+        WR2 bit 6.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            inposition_polarity (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setInpositionPolarity_async(self, port: int, axis: int, inposition_polarity: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setInpositionPolarity, without timeout: WR2 bit 6.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            inposition_polarity (int): 0 or 1
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+        """
+    def _Motion_setInstantLimitStop(self, port: int, axis: int, stop: int, timeout: float = 3) -> int:
+        """
+        WR2 bit 12.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            stop (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setInstantLimitStop_async(self, port: int, axis: int, stop: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setInstantLimitStop, without timeout: WR2 bit 12.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            stop (int): 0 or 1
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+        """
+    def _Motion_setLimitEnable(self, port: int, axis: int, forward_enable: int, reverse_enable: int, timeout: float = 3) -> int:
+        """
+        WR2 bit 11 to forward OR reverse, bit 12 to 0.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            forward_enable (int): 0 or 1
+            reverse_enable (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setLimitEnable_async(self, port: int, axis: int, forward_enable: int, reverse_enable: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setLimitEnable, without timeout: WR2 bit 11 to forward OR reverse, bit 12 to 0.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            forward_enable (int): 0 or 1
+            reverse_enable (int): 0 or 1
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+        """
+    def _Motion_setLimitPolarity(self, port: int, axis: int, limit_polarity: int, timeout: float = 3) -> int:
+        """
+        WR2 bit 10.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            limit_polarity (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setLimitPolarity_async(self, port: int, axis: int, limit_polarity: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setLimitPolarity, without timeout: WR2 bit 10.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            limit_polarity (int): 0 or 1
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            (port, axis as usual)
+        """
+    def _Motion_writeAcceleration(self, port: int, axis: int, acceleration: int = 100000, deceleration: int = 100000, timeout: float = 3) -> int:
+        """
+        Acceleration, deceleration and the WR3 shape.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            acceleration (int): counts/s2 (default 100000)
+            deceleration (int): counts/s2 (default 100000)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeAcceleration_async(self, port: int, axis: int, acceleration: int = 100000, deceleration: int = 100000) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeAcceleration, without timeout: Acceleration, deceleration and the WR3 shape.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            acceleration (int): counts/s2 (default 100000)
+            deceleration (int): counts/s2 (default 100000)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        """
+    def _Motion_writeDriveMode(self, port: int, axis: int, operation_mode: int, velocity: int, timeout: float = 3) -> int:
+        """
+        Starts the drive of a mode.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            operation_mode (int): 0, 1 or 2
+            velocity (int): counts/s
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeDriveMode_async(self, port: int, axis: int, operation_mode: int, velocity: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeDriveMode, without timeout: Starts the drive of a mode.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            operation_mode (int): 0, 1 or 2
+            velocity (int): counts/s
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        """
+    def _Motion_writeHelicalInterpolation(self, port: int, finish_point_axis1: int, finish_point_axis2: int, center_point_axis1: int, center_point_axis2: int, enable_axis3: int, pitch_axis3: int, enable_axis4: int, pitch_axis4: int, rotation_number: int, circular_speed: int, circular_direction: int, timeout: float = 3) -> int:
+        """
+        Writes a helix's registers.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            finish_point_axis1 (int): counts
+            finish_point_axis2 (int): counts
+            center_point_axis1 (int): counts
+            center_point_axis2 (int): counts
+            enable_axis3 (int): 0 or 1
+            pitch_axis3 (int): counts
+            enable_axis4 (int): 0 or 1
+            pitch_axis4 (int): counts
+            rotation_number (int): turns
+            circular_speed (int): counts/s
+            circular_direction (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeHelicalInterpolation_async(self, port: int, finish_point_axis1: int, finish_point_axis2: int, center_point_axis1: int, center_point_axis2: int, enable_axis3: int, pitch_axis3: int, enable_axis4: int, pitch_axis4: int, rotation_number: int, circular_speed: int, circular_direction: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeHelicalInterpolation, without timeout: Writes a helix's registers.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            finish_point_axis1 (int): counts
+            finish_point_axis2 (int): counts
+            center_point_axis1 (int): counts
+            center_point_axis2 (int): counts
+            enable_axis3 (int): 0 or 1
+            pitch_axis3 (int): counts
+            enable_axis4 (int): 0 or 1
+            pitch_axis4 (int): counts
+            rotation_number (int): turns
+            circular_speed (int): counts/s
+            circular_direction (int): 0 or 1
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        """
+    def _Motion_writeHomeSpeed(self, port: int, axis: int, approach_velocity_percent: int | float, search_velocity: int, timeout: float = 3) -> int:
+        """
+        The approach speed: percent of the search speed, at least 1.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            approach_velocity_percent (int | float): percent
+            search_velocity (int): counts/s
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeHomeSpeed_async(self, port: int, axis: int, approach_velocity_percent: int | float, search_velocity: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeHomeSpeed, without timeout: The approach speed: percent of the search speed, at least 1.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            approach_velocity_percent (int | float): percent
+            search_velocity (int): counts/s
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        """
+    def _Motion_writeOffsetPosition(self, port: int, axis: int, offset_position: int, initial_search_direction: int, timeout: float = 3) -> int:
+        """
+        The offset, negated for initial direction 0.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            offset_position (int): counts
+            initial_search_direction (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeOffsetPosition_async(self, port: int, axis: int, offset_position: int, initial_search_direction: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeOffsetPosition, without timeout: The offset, negated for initial direction 0.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            offset_position (int): counts
+            initial_search_direction (int): 0 or 1
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        """
+    def _Motion_writeTargetPosition(self, port: int, axis: int, target_position: int = 0, timeout: float = 3) -> int:
+        """
+        The drive's finish point.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            target_position (int): counts (default 0)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeTargetPosition_async(self, port: int, axis: int, target_position: int = 0) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeTargetPosition, without timeout: The drive's finish point.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            target_position (int): counts (default 0)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        """
+    def _Motion_writeVelocity(self, port: int, axis: int, velocity: int = 10000, timeout: float = 3) -> int:
+        """
+        Drive speed and the initial speed of the stored acceleration.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            velocity (int): counts/s (default 10000)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeVelocity_async(self, port: int, axis: int, velocity: int = 10000) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeVelocity, without timeout: Drive speed and the initial speed of the stored acceleration.
+        
+        Args:
+            port (int): motion port as the chip sees it (not translated)
+            axis (int): 0..3
+            velocity (int): counts/s (default 10000)
+        
+        Returns:
+            int: the greatest status of the steps, from 0: 0 or a positive status
+        """
+    def _checkMCX514MotionPort(self, port: typing.Any) -> None:
+        ...
+    @property
+    def inifile(self) -> str:
+        ...
+    @property
+    def inimode(self) -> str:
+        ...
+class Measurement:
+    """
+    One frame of a digital multimeter decoded: mode, range, display text, the displayed number as a decimal.Decimal, unit and status flags.
+    
+    Measurement(b): b is the frame, 14 bytes.
+    """
+    _EXPONENTS: typing.ClassVar[dict] = {'M': 6, 'k': 3, 'm': -3, 'n': -9, 'u': -6}
+    _MODE: typing.ClassVar[list] = ['ACV', 'ACmV', 'DCV', 'DCmV', 'Hz', '%', 'OHM', 'CONT', 'DIDOE', 'CAP', '°C', '°F', 'DCuA', 'ACuA', 'DCmA', 'ACmA', 'DCA', 'ACA', 'HFE', 'Live', 'NCV', 'LozV', 'ACA', 'DCA', 'LPF', 'AC/DC', 'LPF', 'AC+DC', 'LPF', 'AC+DC2', 'INRUSH']
+    _NCV: typing.ClassVar[list] = ['EF', '-', '--', '---', '----', '-----']
+    _OVERLOAD: typing.ClassVar[list] = ['O.L', 'OL.', 'OL', '-.OL', '-O.L', '-OL.', '-OL']
+    _UNITS: typing.ClassVar[dict] = {'%': {'0': '%'}, 'AC+DC': {'1': 'A'}, 'AC+DC2': {'1': 'A'}, 'AC/DC': {'0': 'V', '1': 'V', '2': 'V', '3': 'V'}, 'ACA': {'1': 'A'}, 'ACV': {'0': 'V', '1': 'V', '2': 'V', '3': 'V'}, 'ACmA': {'0': 'mA', '1': 'mA'}, 'ACmV': {'0': 'mV'}, 'ACuA': {'0': 'uA', '1': 'uA'}, 'CAP': {'0': 'nF', '1': 'nF', '2': 'uF', '3': 'uF', '4': 'uF', '5': 'mF', '6': 'mF', '7': 'mF'}, 'CONT': {'0': 'Ω'}, 'DCA': {'1': 'A'}, 'DCV': {'0': 'V', '1': 'V', '2': 'V', '3': 'V'}, 'DCmA': {'0': 'mA', '1': 'mA'}, 'DCmV': {'0': 'mV'}, 'DCuA': {'0': 'uA', '1': 'uA'}, 'DIDOE': {'0': 'V'}, 'HFE': {'0': 'B'}, 'Hz': {'0': 'Hz', '1': 'Hz', '2': 'kHz', '3': 'kHz', '4': 'kHz', '5': 'MHz', '6': 'MHz', '7': 'MHz'}, 'LPF': {'0': 'V', '1': 'V', '2': 'V', '3': 'V'}, 'LozV': {'0': 'V', '1': 'V', '2': 'V', '3': 'V'}, 'NCV': {'0': 'NCV'}, 'OHM': {'0': 'Ω', '1': 'kΩ', '2': 'kΩ', '3': 'kΩ', '4': 'MΩ', '5': 'MΩ', '6': 'MΩ'}, '°C': {'0': '°C', '1': '°C'}, '°F': {'0': '°F', '1': '°F'}}
+    def __init__(self, b: typing.Any) -> None:
+        ...
+    def __str__(self) -> str:
+        ...
+    @property
+    def _data(self) -> dict:
+        ...
+    @property
+    def binary(self) -> ...:
+        """
+        (self) -> typing.Any
+        
+        The frame as given.
+        """
+    @property
+    def display(self) -> ...:
+        """
+        (self) -> str
+        
+        The display text without blanks.
+        """
+    @property
+    def display_decimal(self) -> ...:
+        """
+        (self) -> decimal.Decimal | decimal.Overflow | int
+        
+        The displayed number; decimal.Overflow() on overload; the level 0..5 (-1 unknown) in NCV mode.
+        """
+    @property
+    def display_unit(self) -> ...:
+        """
+        (self) -> str | None
+        
+        The unit shown, with its prefix.
+        """
+    @property
+    def hasBatteryWarning(self) -> ...:
+        """
+        (self) -> bool
+        
+        Low battery.
+        """
+    @property
+    def hasHVWarning(self) -> ...:
+        """
+        (self) -> bool
+        
+        High-voltage warning.
+        """
+    @property
+    def isAuto(self) -> ...:
+        """
+        (self) -> bool
+        
+        Auto range.
+        """
+    @property
+    def isBarPol(self) -> ...:
+        """
+        (self) -> bool
+        
+        Bar polarity.
+        """
+    @property
+    def isDC(self) -> ...:
+        """
+        (self) -> bool
+        
+        DC.
+        """
+    @property
+    def isHold(self) -> ...:
+        """
+        (self) -> bool
+        
+        Display hold.
+        """
+    @property
+    def isMax(self) -> ...:
+        """
+        (self) -> bool
+        
+        Max hold.
+        """
+    @property
+    def isMaxPeak(self) -> ...:
+        """
+        (self) -> bool
+        
+        Max peak.
+        """
+    @property
+    def isMin(self) -> ...:
+        """
+        (self) -> bool
+        
+        Min hold.
+        """
+    @property
+    def isMinPeak(self) -> ...:
+        """
+        (self) -> bool
+        
+        Min peak.
+        """
+    @property
+    def isRel(self) -> ...:
+        """
+        (self) -> bool
+        
+        Relative mode.
+        """
+    @property
+    def mode(self) -> ...:
+        """
+        (self) -> str
+        
+        The mode's name ("DCV", "OHM", ...).
+        """
+    @property
+    def overload(self) -> ...:
+        """
+        (self) -> bool
+        
+        True when the display shows an overload.
+        """
+    @property
+    def progress(self) -> ...:
+        """
+        (self) -> int
+        
+        The progress bar, 0..99.
+        """
+    @property
+    def range(self) -> ...:
+        """
+        (self) -> str
+        
+        The range digit, one character.
+        """
+    @property
+    def unit(self) -> ...:
+        """
+        (self) -> str | None
+        
+        The unit shown, with its prefix (display_unit).
+        """
+    @property
+    def value(self) -> ...:
+        """
+        (self) -> decimal.Decimal | decimal.Overflow | int
+        
+        The number with the prefix's digits rotated in (decimal rotate by its power of ten).
+        """
 class NetworkModule:
     """
     A network device's own addressing: IP address, mask, gateway, MAC.
@@ -6466,6 +16593,681 @@ class SystemModule:
     @property
     def thread_info(self) -> str:
         ...
+class ThermalResistanceModule(ThermalModule):
+    """
+    Resistance temperature sensors, PT-100 and PT-1000 (PloverRtd).
+    """
+    def Thermal_setType(self, port: int, channel: int, type_: int, timeout: float = 3) -> int:
+        """
+        Sets the sensor wiring.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            type_ (int): 0: two- or four-wire, 1: three-wire
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            ThermalTypeNotVaildError: type_ is not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Thermal_setType_async(self, port: int, channel: int, type_: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Thermal_setType, without timeout: Sets the sensor wiring.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            type_ (int): 0: two- or four-wire, 1: three-wire
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            ThermalTypeNotVaildError: type_ is not 0 or 1.
+        """
+class ThermocoupleModule(ThermalModule):
+    """
+    Thermocouple inputs (KestrelTherm, PloverTc).
+    """
+    def Thermal_setOverSampling(self, port: int, channel: int, mode: int, timeout: float = 3) -> int:
+        """
+        Sets how many samples a reading averages.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            mode (int): 0: 1 (device default), 1: 2, 2: 4, 3: 8, 4: 16
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            ThermalModeNotVaildError: mode is not one of 0..4.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Thermal_setOverSampling_async(self, port: int, channel: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Thermal_setOverSampling, without timeout: Sets how many samples a reading averages.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            mode (int): 0: 1 (device default), 1: 2, 2: 4, 3: 8, 4: 16
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            ThermalModeNotVaildError: mode is not one of 0..4.
+        """
+    def Thermal_setType(self, port: int, channel: int, type_: int, timeout: float = 3) -> int:
+        """
+        Sets the thermocouple type.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            type_ (int): 0 B, 1 E, 2 J, 3 K (device default), 4 N, 5 R, 6 S, 7 T
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            ThermalTypeNotVaildError: type_ is not one of 0..7.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Thermal_setType_async(self, port: int, channel: int, type_: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Thermal_setType, without timeout: Sets the thermocouple type.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            type_ (int): 0 B, 1 E, 2 J, 3 K (device default), 4 N, 5 R, 6 S, 7 T
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            ThermalTypeNotVaildError: type_ is not one of 0..7.
+        """
+    def _Thermal_readJunction(self, port: int, channel: int, timeout: float = 3) -> float:
+        """
+        Reads the cold-junction temperature.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            float: degrees Celsius
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Thermal_readJunction_async(self, port: int, channel: int) -> collections.abc.Coroutine[typing.Any, typing.Any, float]:
+        """
+        Awaitable _Thermal_readJunction, without timeout: Reads the cold-junction temperature.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+        
+        Returns:
+            float: degrees Celsius
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+        """
+    def _Thermal_setJunctionOn(self, port: int, channel: int, status: bool, timeout: float = 3) -> int:
+        """
+        Turns the cold-junction compensation on or off.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            status (bool): True sends 1, False 0
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Thermal_setJunctionOn_async(self, port: int, channel: int, status: bool) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Thermal_setJunctionOn, without timeout: Turns the cold-junction compensation on or off.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            status (bool): True sends 1, False 0
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+        """
+    def _Thermal_writeJunction(self, port: int, channel: int, temperature: float, timeout: float = 3) -> int:
+        """
+        Sets the cold-junction temperature.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            temperature (float): degrees Celsius, sent as a 32-bit float
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int, or temperature not a number.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Thermal_writeJunction_async(self, port: int, channel: int, temperature: float) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Thermal_writeJunction, without timeout: Sets the cold-junction temperature.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            channel (int): sensor channel: 0..1, on KestrelTherm 0..6
+            temperature (float): degrees Celsius, sent as a 32-bit float
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or channel is not an int, or temperature not a number.
+            ThermalPortNotAvaliableError: port is not a key of thermal_dict.
+            ThermalChipSelectNotAvaliableError: channel is out of range.
+        """
+class UARTModule:
+    """
+    The device's two UARTs: open, line settings, write up to 50 bytes a command, read what the device received (streamed by the device, one thread per port).
+    """
+    @staticmethod
+    def _checkUARTBaudRate(baud_rate: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkUARTDataBit(mode: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkUARTDataLength(data: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkUARTNumStopBitMode(mode: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkUARTParityMode(mode: typing.Any) -> bool:
+        ...
+    def UART_close(self, port: int, timeout: float = 3) -> int:
+        """
+        Stops the reading, closes the UART; the first close after an open parks both stream threads.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def UART_close_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable UART_close, without timeout: Stops the reading, closes the UART; the first close after an open parks both stream threads.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+        """
+    def UART_getPinMap(self) -> dict[int, list[tuple[int, int]]]:
+        """
+        The UART ports and their pins; nothing is sent.
+        
+        Returns:
+            dict[int, list[tuple[int, int]]]: uart_dict: port -> (digital port, pin) pairs
+        """
+    def UART_getPinMap_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, dict[int, list[tuple[int, int]]]]:
+        """
+        Awaitable UART_getPinMap, without timeout: The UART ports and their pins; nothing is sent.
+        
+        Returns:
+            dict[int, list[tuple[int, int]]]: uart_dict: port -> (digital port, pin) pairs
+        """
+    def UART_open(self, port: int, timeout: float = 3) -> int:
+        """
+        Opens a UART after reading the modes of its pins; the first open after a close starts the port's stream and opens both ports' stream gates.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict, or (after the pin-mode read) a pin of the port is in a mode other than Idle, DI or DO.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def UART_open_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable UART_open, without timeout: Opens a UART after reading the modes of its pins; the first open after a close starts the port's stream and opens both ports' stream gates.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict, or (after the pin-mode read) a pin of the port is in a mode other than Idle, DI or DO.
+        """
+    def UART_read(self, port: int, bytes_to_read: int, delay: float = 0.005) -> list[str]:
+        """
+        Takes received bytes of a UART. The blocking method waits until bytes_to_read are there while the UARTs are open (closed: what is there, at once); the awaitable twin takes what is there, up to bytes_to_read, without waiting.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            bytes_to_read (int): how many bytes; -1 for all that are there
+            delay (float): kept for the interface; a byte wakes the reader at once (default 0.005)
+        
+        Returns:
+            list[str]: one one-character string per byte, oldest first
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or bytes_to_read is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+        """
+    def UART_read_async(self, port: int, bytes_to_read: int, delay: float = 0.005) -> collections.abc.Coroutine[typing.Any, typing.Any, list[str]]:
+        """
+        Awaitable UART_read, without timeout: Takes received bytes of a UART. The blocking method waits until bytes_to_read are there while the UARTs are open (closed: what is there, at once); the awaitable twin takes what is there, up to bytes_to_read, without waiting.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            bytes_to_read (int): how many bytes; -1 for all that are there
+            delay (float): kept for the interface; a byte wakes the reader at once (default 0.005)
+        
+        Returns:
+            list[str]: one one-character string per byte, oldest first
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or bytes_to_read is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+        """
+    def UART_reset(self, port: int, timeout: float = 3) -> int:
+        """
+        Resets a UART.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def UART_reset_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable UART_reset, without timeout: Resets a UART.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+        """
+    def UART_setBaudRate(self, port: int, baud_rate: int, timeout: float = 3) -> int:
+        """
+        Sets the baud rate, sent as four bytes, high byte first.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            baud_rate (int): bits per second, at most 400000 (no lower bound)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or baud_rate is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTBaudRateNotSupportError: baud_rate above 400000.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def UART_setBaudRate_async(self, port: int, baud_rate: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable UART_setBaudRate, without timeout: Sets the baud rate, sent as four bytes, high byte first.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            baud_rate (int): bits per second, at most 400000 (no lower bound)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or baud_rate is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTBaudRateNotSupportError: baud_rate above 400000.
+        """
+    def UART_setDataBit(self, port: int, mode: int, timeout: float = 3) -> int:
+        """
+        Sets the data size.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            mode (int): 0 or 1, passed to the firmware as it is
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTDataBitNotSupportError: mode is not 0 or 1.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def UART_setDataBit_async(self, port: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable UART_setDataBit, without timeout: Sets the data size.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            mode (int): 0 or 1, passed to the firmware as it is
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTDataBitNotSupportError: mode is not 0 or 1.
+        """
+    def UART_setNumStopBit(self, port: int, mode: int, timeout: float = 3) -> int:
+        """
+        Sets the number of stop bits.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            mode (int): 0..3, passed to the firmware as it is
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTStopBitNotSupportError: mode is not in 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def UART_setNumStopBit_async(self, port: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable UART_setNumStopBit, without timeout: Sets the number of stop bits.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            mode (int): 0..3, passed to the firmware as it is
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTStopBitNotSupportError: mode is not in 0..3.
+        """
+    def UART_setParity(self, port: int, mode: int, timeout: float = 3) -> int:
+        """
+        Sets the parity.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            mode (int): 0..3, passed to the firmware as it is
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTParityNotSupportError: mode is not in 0..3.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def UART_setParity_async(self, port: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable UART_setParity, without timeout: Sets the parity.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            mode (int): 0..3, passed to the firmware as it is
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port or mode is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTParityNotSupportError: mode is not in 0..3.
+        """
+    def UART_stopReading(self, port: int, timeout: float = 3) -> int:
+        """
+        Stops the stream of received bytes of a UART.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def UART_stopReading_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable UART_stopReading, without timeout: Stops the stream of received bytes of a UART.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+        """
+    def UART_write(self, port: int, write_data: str | list[str], timeout: float = 3) -> int:
+        """
+        Writes up to 50 characters in one command: a length byte (the items given), then one byte per character code.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            write_data (str | list[str]): a text, or a list of one-character strings; codes 0..255
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or write_data neither a str nor a list.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTExceedMaxLengthError: more than 50 items.
+            TypeError: an item of the list is not a one-character string.
+            ValueError: a character code above 255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def UART_write_async(self, port: int, write_data: str | list[str]) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable UART_write, without timeout: Writes up to 50 characters in one command: a length byte (the items given), then one byte per character code.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            write_data (str | list[str]): a text, or a list of one-character strings; codes 0..255
+        
+        Returns:
+            int: 0, or a negative firmware error code
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int, or write_data neither a str nor a list.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            UARTExceedMaxLengthError: more than 50 items.
+            TypeError: an item of the list is not a one-character string.
+            ValueError: a character code above 255.
+        """
+    def _UART_free(self) -> None:
+        """
+        Ends both stream threads (the model's close does this and joins them).
+        """
+    def _UART_getPinMapPort(self, UART_port: typing.Any) -> list[int]:
+        """
+        The digital ports the UART's pins lie on, each once.
+        """
+    def _UART_startReading(self, port: int, timeout: float = 3) -> int:
+        """
+        Asks the firmware to stream what the UART receives; no reply is awaited.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _UART_startReading_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _UART_startReading, without timeout: Asks the firmware to stream what the UART receives; no reply is awaited.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            UARTPortNotAvaliableError: port is not a key of uart_dict.
+        """
+    def _checkUARTPinState(self, port: int, allow_state: list[str], timeout: float = 3) -> None:
+        """
+        Reads the modes of the digital ports the UART's pins lie on and tests every pin of the UART against each port's modes.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            allow_state (list[str]): mode names that count as free, e.g. ['Idle']
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            None: nothing; raises on a busy pin
+        
+        Raises, before anything is sent:
+            UARTPortNotAvaliableError: a pin in a mode not in allow_state (after the read).
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _checkUARTPinState_async(self, port: int, allow_state: list[str]) -> collections.abc.Coroutine[typing.Any, typing.Any, None]:
+        """
+        Awaitable _checkUARTPinState, without timeout: Reads the modes of the digital ports the UART's pins lie on and tests every pin of the UART against each port's modes.
+        
+        Args:
+            port (int): UART port, a key of uart_dict (1 or 2)
+            allow_state (list[str]): mode names that count as free, e.g. ['Idle']
+        
+        Returns:
+            None: nothing; raises on a busy pin
+        
+        Raises, before anything is sent:
+            UARTPortNotAvaliableError: a pin in a mode not in allow_state (after the read).
+        """
+    def _checkUARTPort(self, port: typing.Any) -> bool:
+        ...
+    def _uartGateOpen(self, port: typing.SupportsInt | typing.SupportsIndex) -> bool:
+        """
+        Whether the stream thread of a port may pass its gate.
+        """
+    def _uartSignalSize(self, port: typing.SupportsInt | typing.SupportsIndex) -> int:
+        """
+        Bytes waiting in a port's signal queue.
+        """
+    @property
+    def uart_killed(self) -> bool:
+        """
+        True once the stream threads end.
+        """
+    @property
+    def uart_open_flag(self) -> bool:
+        """
+        True from a first open to the matching close; one for both ports.
+        """
 class WifiModule:
     """
     The Wi-Fi models' LEDs, power state and radio settings.
@@ -6837,7 +17639,7 @@ class DeviceFinder(BroadcastDevice, BroadcastModule):
     """
     def __init__(self, verbose: bool = True, broadcast_addr: str | None = None) -> None:
         ...
-class HeronAinImu(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, WifiModule, AIModule):
+class HeronAinImu(WifiDevice, DataLogger, SystemModule, SystemAnalogModule, NetworkModule, WifiModule, AIModule, AHRSModule):
     """
     HeronAinImu (Heron-Ain-Imu): device class WifiDevice; modules System, SystemAnalog, Network, Wifi, AI, AHRS.
     
@@ -6845,7 +17647,7 @@ class HeronAinImu(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, W
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class HeronAin(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, WifiModule, AIModule):
+class HeronAin(WifiDevice, DataLogger, SystemModule, SystemAnalogModule, NetworkModule, WifiModule, AIModule):
     """
     HeronAin (Heron-Ain): device class WifiDevice; modules System, SystemAnalog, Network, Wifi, AI.
     
@@ -6853,7 +17655,7 @@ class HeronAin(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, Wifi
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class HeronAinPlus(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, WifiModule, AIModule):
+class HeronAinPlus(WifiDevice, DataLogger, SystemModule, SystemAnalogModule, NetworkModule, WifiModule, AIModule):
     """
     HeronAinPlus (Heron-Ain-Plus): device class WifiDevice; modules System, SystemAnalog, Network, Wifi, AI.
     
@@ -6861,7 +17663,7 @@ class HeronAinPlus(WifiDevice, SystemModule, SystemAnalogModule, NetworkModule, 
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class Trellis(ETHDevice, SystemModule, NetworkModule, AIModule, AOModule, DIOModule):
+class Trellis(DataLogger, ETHDevice, SystemModule, NetworkModule, AIModule, AOModule, DIOModule, MCX514Module):
     """
     Trellis (Trellis): device class ETHDevice; modules System, Network, AI, AO, DIO, MCX514.
     
@@ -6877,7 +17679,7 @@ class MerlinDrive(ETHDevice, SystemModule, NetworkModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class MerlinAxis(ETHDevice, SystemModule, NetworkModule):
+class MerlinAxis(ETHDevice, DataLogger, MCX514Module, SystemModule, NetworkModule):
     """
     MerlinAxis (Merlin-Axis): device class ETHDevice; modules MCX514, System, Network.
     
@@ -6885,7 +17687,7 @@ class MerlinAxis(ETHDevice, SystemModule, NetworkModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelAin(ETHDevice, SystemModule, NetworkModule, AIModule):
+class KestrelAin(ETHDevice, DataLogger, SystemModule, NetworkModule, AIModule):
     """
     KestrelAin (Kestrel-Ain): device class ETHDevice; modules System, Network, AI.
     
@@ -6893,7 +17695,7 @@ class KestrelAin(ETHDevice, SystemModule, NetworkModule, AIModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelDio(ETHDevice, SystemModule, NetworkModule, DIOModule, PWMModule):
+class KestrelDio(ETHDevice, DataLogger, SystemModule, NetworkModule, DIOModule, PWMModule):
     """
     KestrelDio (Kestrel-Dio): device class ETHDevice; modules System, Network, DIO, PWM.
     
@@ -6901,7 +17703,7 @@ class KestrelDio(ETHDevice, SystemModule, NetworkModule, DIOModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelDioX(ETHDevice, SystemModule, NetworkModule, DIOModule):
+class KestrelDioX(ETHDevice, DataLogger, SystemModule, NetworkModule, DIOModule):
     """
     KestrelDioX (Kestrel-Dio_X): device class ETHDevice; modules System, Network, DIO.
     
@@ -6909,7 +17711,7 @@ class KestrelDioX(ETHDevice, SystemModule, NetworkModule, DIOModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelCin(ETHDevice, SystemModule, NetworkModule, AI24BitModule):
+class KestrelCin(ETHDevice, DataLogger, SystemModule, NetworkModule, AI24BitModule):
     """
     KestrelCin (Kestrel-Cin): device class ETHDevice; modules System, Network, AI24Bit.
     
@@ -6917,7 +17719,7 @@ class KestrelCin(ETHDevice, SystemModule, NetworkModule, AI24BitModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelCvin(ETHDevice, SystemModule, NetworkModule, AI24BitModule):
+class KestrelCvin(ETHDevice, DataLogger, SystemModule, NetworkModule, AI24BitModule):
     """
     KestrelCvin (Kestrel-Cvin): device class ETHDevice; modules System, Network, AI24Bit.
     
@@ -6925,7 +17727,7 @@ class KestrelCvin(ETHDevice, SystemModule, NetworkModule, AI24BitModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelRelay(ETHDevice, SystemModule, NetworkModule, DIOModule, RelayModule):
+class KestrelRelay(ETHDevice, DataLogger, SystemModule, NetworkModule, DIOModule, RelayModule):
     """
     KestrelRelay (Kestrel-Relay): device class ETHDevice; modules System, Network, DIO, Relay.
     
@@ -6933,7 +17735,7 @@ class KestrelRelay(ETHDevice, SystemModule, NetworkModule, DIOModule, RelayModul
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelAout(ETHDevice, SystemModule, NetworkModule, AOModule):
+class KestrelAout(ETHDevice, DataLogger, SystemModule, NetworkModule, AOModule):
     """
     KestrelAout (Kestrel-Aout): device class ETHDevice; modules System, Network, AO.
     
@@ -6941,7 +17743,7 @@ class KestrelAout(ETHDevice, SystemModule, NetworkModule, AOModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelRes(ETHDevice, SystemModule, NetworkModule, DPOTModule):
+class KestrelRes(ETHDevice, DataLogger, SystemModule, NetworkModule, DPOTModule):
     """
     KestrelRes (Kestrel-Res): device class ETHDevice; modules System, Network, DPOT.
     
@@ -6949,7 +17751,7 @@ class KestrelRes(ETHDevice, SystemModule, NetworkModule, DPOTModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class KestrelTherm(ETHDevice, SystemModule, NetworkModule):
+class KestrelTherm(ETHDevice, DataLogger, SystemModule, NetworkModule, ThermocoupleModule):
     """
     KestrelTherm (Kestrel-Therm): device class ETHDevice; modules System, Network, Thermocouple.
     
@@ -6957,7 +17759,7 @@ class KestrelTherm(ETHDevice, SystemModule, NetworkModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverDio(USBDevice, SystemModule, I2CModule, SPIModule, DIOModule, CounterModule, PWMModule):
+class PloverDio(USBDevice, DataLogger, SystemModule, UARTModule, I2CModule, SPIModule, DIOModule, CounterModule, PWMModule):
     """
     PloverDio (Plover-Dio): device class USBDevice; modules System, UART, I2C, SPI, DIO, Counter, PWM.
     
@@ -6965,7 +17767,7 @@ class PloverDio(USBDevice, SystemModule, I2CModule, SPIModule, DIOModule, Counte
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverAin(USBDevice, SystemModule, I2CModule, SPIModule, AIModule, DIOModule, CounterModule, PWMModule):
+class PloverAin(USBDevice, DataLogger, SystemModule, UARTModule, I2CModule, SPIModule, AIModule, DIOModule, CounterModule, PWMModule):
     """
     PloverAin (Plover-Ain): device class USBDevice; modules System, UART, I2C, SPI, AI, DIO, Counter, PWM.
     
@@ -6973,7 +17775,7 @@ class PloverAin(USBDevice, SystemModule, I2CModule, SPIModule, AIModule, DIOModu
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverTc(USBDevice, SystemModule, I2CModule, SPIModule, DIOModule, CounterModule, PWMModule):
+class PloverTc(USBDevice, DataLogger, SystemModule, UARTModule, I2CModule, SPIModule, ThermocoupleModule, DIOModule, CounterModule, PWMModule):
     """
     PloverTc (Plover-Tc): device class USBDevice; modules System, UART, I2C, SPI, Thermocouple, DIO, Counter, PWM.
     
@@ -6981,7 +17783,7 @@ class PloverTc(USBDevice, SystemModule, I2CModule, SPIModule, DIOModule, Counter
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverCan(USBDevice, SystemModule, I2CModule, SPIModule, DIOModule, CounterModule, PWMModule):
+class PloverCan(USBDevice, DataLogger, SystemModule, UARTModule, I2CModule, SPIModule, CANModule, DIOModule, CounterModule, PWMModule):
     """
     PloverCan (Plover-Can): device class USBDevice; modules System, UART, I2C, SPI, CAN, DIO, Counter, PWM.
     
@@ -6989,7 +17791,7 @@ class PloverCan(USBDevice, SystemModule, I2CModule, SPIModule, DIOModule, Counte
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverSink(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
+class PloverSink(USBDevice, DataLogger, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     PloverSink (Plover-Sink): device class USBDevice; modules System, DIO, Counter, PWM.
     
@@ -6997,7 +17799,7 @@ class PloverSink(USBDevice, SystemModule, DIOModule, CounterModule, PWMModule):
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverAio(USBDevice, SystemModule, I2CModule, AIModule, AOModule, DIOModule, CounterModule, PWMModule):
+class PloverAio(USBDevice, DataLogger, SystemModule, UARTModule, I2CModule, AIModule, AOModule, DIOModule, CounterModule, PWMModule):
     """
     PloverAio (Plover-Aio): device class USBDevice; modules System, UART, I2C, AI, AO, DIO, Counter, PWM.
     
@@ -7005,7 +17807,7 @@ class PloverAio(USBDevice, SystemModule, I2CModule, AIModule, AOModule, DIOModul
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class PloverRtd(USBDevice, SystemModule, I2CModule, SPIModule, DIOModule, CounterModule, PWMModule):
+class PloverRtd(USBDevice, DataLogger, SystemModule, UARTModule, I2CModule, SPIModule, ThermalResistanceModule, DIOModule, CounterModule, PWMModule):
     """
     PloverRtd (Plover-Rtd): device class USBDevice; modules System, UART, I2C, SPI, ThermalResistance, DIO, Counter, PWM.
     
@@ -7177,6 +17979,7 @@ def writeBit(number: int, index: int, value: int) -> int:
     """
 AHRS_START: int = 9217
 BROADCAST_CMD_LIST: list = [252, 253, 254]
+CHECK_CALCULATUON: int = 185
 CHECK_MAC_AND_REBOOT: int = 254
 CHECK_MAC_AND_SET_IP: int = 253
 CMD_CR: int = 13
@@ -7195,6 +17998,205 @@ HANDLE_DICT: dict = {'utilities': ['DeviceFinder', 'DataLogger'], 'wireless': ['
 HANDLE_LIST: list = ['DeviceFinder', 'DataLogger', 'HeronAinImu', 'HeronAin', 'HeronAinPlus', 'Trellis', 'MerlinDrive', 'MerlinAxis', 'KestrelAin', 'KestrelDio', 'KestrelDioX', 'KestrelCin', 'KestrelCvin', 'KestrelRelay', 'KestrelAout', 'KestrelRes', 'KestrelTherm', 'PloverDio', 'PloverAin', 'PloverTc', 'PloverCan', 'PloverSink', 'PloverAio', 'PloverRtd']
 LABEL_DICT: dict = {'utilities': 'Utilities', 'wireless': 'Wifi devices', 'ethernet': 'Ethernet devices', 'USB': 'USB devices', 'product_list': 'Products Usage', 'DeviceFinder': 'Device finder', 'DataLogger': 'Data logger', 'HeronAinImu': 'Heron-Ain-Imu', 'HeronAin': 'Heron-Ain', 'HeronAinPlus': 'Heron-Ain-Plus', 'Trellis': 'Trellis', 'TrellisLite': 'Trellis-Lite', 'MerlinDrive': 'Merlin-Drive', 'MerlinAxis': 'Merlin-Axis', 'KestrelAin': 'Kestrel-Ain', 'KestrelDio': 'Kestrel-Dio', 'KestrelDioX': 'Kestrel-Dio_X', 'KestrelCin': 'Kestrel-Cin', 'KestrelCvin': 'Kestrel-Cvin', 'KestrelRelay': 'Kestrel-Relay', 'KestrelAout': 'Kestrel-Aout', 'KestrelRes': 'Kestrel-Res', 'KestrelTherm': 'Kestrel-Therm', 'PloverDio': 'Plover-Dio', 'PloverAin': 'Plover-Ain', 'PloverTc': 'Plover-Tc', 'PloverCan': 'Plover-Can', 'PloverSink': 'Plover-Sink', 'PloverAio': 'Plover-Aio', 'PloverRtd': 'Plover-Rtd'}
 MOTION: int = 208
+MOTION_00_JK: int = 0
+MOTION_01_DJ: int = 1
+MOTION_02_AC: int = 2
+MOTION_03_DC: int = 3
+MOTION_04_SV: int = 4
+MOTION_05_DV: int = 5
+MOTION_06_TP: int = 6
+MOTION_07_DP: int = 7
+MOTION_08_CP: int = 8
+MOTION_09_LP: int = 9
+MOTION_0A_RP: int = 10
+MOTION_0B_SP: int = 11
+MOTION_0C_SM: int = 12
+MOTION_0D_AO: int = 13
+MOTION_0E_LX: int = 14
+MOTION_0F_RX: int = 15
+MOTION_10_MR0: int = 16
+MOTION_11_MR1: int = 17
+MOTION_12_MR2: int = 18
+MOTION_13_MR3: int = 19
+MOTION_14_HV: int = 20
+MOTION_15_IV: int = 21
+MOTION_16_TM: int = 22
+MOTION_17_SP1: int = 23
+MOTION_18_SP2: int = 24
+MOTION_19_TX: int = 25
+MOTION_1A_HLN: int = 26
+MOTION_1B_HLV: int = 27
+MOTION_1C_GPIO: int = 28
+MOTION_1F_NOP: int = 31
+MOTION_20_MRM: int = 32
+MOTION_21_P1M: int = 33
+MOTION_22_P2M: int = 34
+MOTION_23_H1M: int = 35
+MOTION_24_H2M: int = 36
+MOTION_25_FLM: int = 37
+MOTION_26_S0M: int = 38
+MOTION_27_S1M: int = 39
+MOTION_28_S2M: int = 40
+MOTION_29_S3M: int = 41
+MOTION_2A_IPM: int = 42
+MOTION_30_LP: int = 48
+MOTION_31_RP: int = 49
+MOTION_32_CV: int = 50
+MOTION_33_CA: int = 51
+MOTION_34_MR0: int = 52
+MOTION_35_MR1: int = 53
+MOTION_36_MR2: int = 54
+MOTION_37_MR3: int = 55
+MOTION_38_CT: int = 56
+MOTION_39_TX: int = 57
+MOTION_3A_CHLN: int = 58
+MOTION_3B_HLV: int = 59
+MOTION_3D_WR1: int = 61
+MOTION_3E_WR2: int = 62
+MOTION_3F_WR3: int = 63
+MOTION_40_MRM: int = 64
+MOTION_41_P1M: int = 65
+MOTION_42_P2M: int = 66
+MOTION_43_AC: int = 67
+MOTION_44_SV: int = 68
+MOTION_45_DV: int = 69
+MOTION_46_TP: int = 70
+MOTION_47_SP1: int = 71
+MOTION_48_UI: int = 72
+MOTION_50_DRVRL: int = 80
+MOTION_51_DRVNR: int = 81
+MOTION_52_DRVVP: int = 82
+MOTION_53_DRVVM: int = 83
+MOTION_54_DRVAB: int = 84
+MOTION_56_DRVSBRK: int = 86
+MOTION_57_DRVFBRK: int = 87
+MOTION_58_DIRCP: int = 88
+MOTION_59_DIRCM: int = 89
+MOTION_5A_HMSRC: int = 90
+MOTION_60_LHK1: int = 96
+MOTION_61_LHK2: int = 97
+MOTION_62_LHK3: int = 98
+MOTION_63_LHK4: int = 99
+MOTION_64_CHKCW: int = 100
+MOTION_65_CHKCCW: int = 101
+MOTION_66_BHK2: int = 102
+MOTION_67_BHK3: int = 103
+MOTION_68_BHK4: int = 104
+MOTION_69_HLCW: int = 105
+MOTION_6A_HLCCW: int = 106
+MOTION_6B_HLPCW: int = 107
+MOTION_6C_HLPCCW: int = 108
+MOTION_6D_DECEN: int = 109
+MOTION_6E_DECDIS: int = 110
+MOTION_6F_CLRSTEP: int = 111
+MOTION_70_VINC: int = 112
+MOTION_71_VDEC: int = 113
+MOTION_72_DCC: int = 114
+MOTION_73_TMSTA: int = 115
+MOTION_74_TMSTP: int = 116
+MOTION_75_SPSTA: int = 117
+MOTION_76_SPSTP: int = 118
+MOTION_77_DHOLD: int = 119
+MOTION_78_DFREE: int = 120
+MOTION_79_R2CLR: int = 121
+MOTION_7A_RR3P0: int = 122
+MOTION_7B_RR3P1: int = 123
+MOTION_7C_MFPC: int = 124
+MOTION_81_SYNC0EN: int = 129
+MOTION_82_SYNC1EN: int = 130
+MOTION_83_SYNC01EN: int = 131
+MOTION_84_SYNC2EN: int = 132
+MOTION_85_SYNC02EN: int = 133
+MOTION_86_SYNC12EN: int = 134
+MOTION_87_SYNC012EN: int = 135
+MOTION_88_SYNC3EN: int = 136
+MOTION_89_SYNC03EN: int = 137
+MOTION_8A_SYNC13EN: int = 138
+MOTION_8B_SYNC013EN: int = 139
+MOTION_8C_SYNC23EN: int = 140
+MOTION_8D_SYNC023EN: int = 141
+MOTION_8E_SYNC123EN: int = 142
+MOTION_8F_SYNC0123EN: int = 143
+MOTION_91_SYNC0DIS: int = 145
+MOTION_92_SYNC1DIS: int = 146
+MOTION_93_SYNC01DIS: int = 147
+MOTION_94_SYNC2DIS: int = 148
+MOTION_95_SYNC02DIS: int = 149
+MOTION_96_SYNC12DIS: int = 150
+MOTION_97_SYNC012DIS: int = 151
+MOTION_98_SYNC3DIS: int = 152
+MOTION_99_SYNC03DIS: int = 153
+MOTION_9A_SYNC13DIS: int = 154
+MOTION_9B_SYNC013DIS: int = 155
+MOTION_9C_SYNC23DIS: int = 156
+MOTION_9D_SYNC023DIS: int = 157
+MOTION_9E_SYNC123DIS: int = 158
+MOTION_9F_SYNC0123DIS: int = 159
+MOTION_A1_SYNC0ACT: int = 161
+MOTION_A2_SYNC1ACT: int = 162
+MOTION_A3_SYNC01ACT: int = 163
+MOTION_A4_SYNC2ACT: int = 164
+MOTION_A5_SYNC02ACT: int = 165
+MOTION_A6_SYNC12ACT: int = 166
+MOTION_A7_SYNC012ACT: int = 167
+MOTION_A8_SYNC3ACT: int = 168
+MOTION_A9_SYNC03ACT: int = 169
+MOTION_AA_SYNC13ACT: int = 170
+MOTION_AB_SYNC013ACT: int = 171
+MOTION_AC_SYNC23ACT: int = 172
+MOTION_AD_SYNC023ACT: int = 173
+MOTION_AE_SYNC123ACT: int = 174
+MOTION_AF_SYNC0123ACT: int = 175
+MOTION_C0_SP0L: int = 192
+MOTION_C1_SP0E: int = 193
+MOTION_C2_SP1L: int = 194
+MOTION_C3_SP1E: int = 195
+MOTION_C4_SP2L: int = 196
+MOTION_C5_SP2E: int = 197
+MOTION_C6_INPL: int = 198
+MOTION_C7_INPE: int = 199
+MOTION_C8_ALML: int = 200
+MOTION_C9_ALME: int = 201
+MOTION_CA_HLML: int = 202
+MOTION_CB_HLME: int = 203
+MOTION_CC_HLMM: int = 204
+MOTION_CD_SLME: int = 205
+MOTION_CE_SLMO: int = 206
+MOTION_CF_SLMM: int = 207
+MOTION_D0_MANLD: int = 208
+MOTION_D1_DSNDE: int = 209
+MOTION_D2_SACC: int = 210
+MOTION_D3_DPMD0: int = 211
+MOTION_D4_DPMD1: int = 212
+MOTION_D5_DPL: int = 213
+MOTION_D6_DIRL: int = 214
+MOTION_D7_DPINV: int = 215
+MOTION_D8_PIMD0: int = 216
+MOTION_D9_PIMD1: int = 217
+MOTION_DA_PIL: int = 218
+MOTION_DB_PIINV: int = 219
+MOTION_DC_LMINV: int = 220
+MOTION_DD_AVTRI: int = 221
+MOTION_DE_TMMD: int = 222
+MOTION_E0_WR0: int = 224
+MOTION_E1_WR1: int = 225
+MOTION_E2_WR2: int = 226
+MOTION_E3_WR3: int = 227
+MOTION_E4_WR4: int = 228
+MOTION_E5_WR5: int = 229
+MOTION_E6_WR6: int = 230
+MOTION_E7_WR7: int = 231
+MOTION_E8_RR0: int = 232
+MOTION_E9_RR1: int = 233
+MOTION_EA_RR2: int = 234
+MOTION_EB_RR3: int = 235
+MOTION_EC_RR4: int = 236
+MOTION_ED_RR5: int = 237
+MOTION_EE_RR6: int = 238
+MOTION_EF_RR7: int = 239
+MOTION_FC_I2CCHK: int = 252
+MOTION_FD_I2CRST: int = 253
+MOTION_FE_HDRST: int = 254
 NUM_BCST_RETRIES: int = 3
 NUM_RETRIES: int = 3
 OPEN_CAN: int = 48
