@@ -96,12 +96,12 @@ int16_t clampCount(double c) {
 // One waveform of "ai.wave": the count of sample k of a stream at `rate`.
 class Wave {
  public:
-  Wave(const Value& spec, int channel, double ratio) : ratio_(ratio) {
+  Wave(const Value& form, int channel, double ratio) : ratio_(ratio) {
     kind_ = "ramp";
     a_ = 1000.0 * channel;
     b_ = 1;
-    if (!spec.isSequence() || spec.size() == 0 || !spec.asList()[0].isText()) return;
-    const auto& l = spec.asList();
+    if (!form.isSequence() || form.size() == 0 || !form.asList()[0].isText()) return;
+    const auto& l = form.asList();
     kind_ = l[0].asText();
     auto num = [&](size_t i, double dflt) {
       return i < l.size() && l[i].isNumber() ? l[i].asFloat() : dflt;
@@ -142,12 +142,12 @@ class Wave {
 };
 
 std::vector<Wave> wavesOf(SimDevice& dev, int channels) {
-  const Value spec = dev.state().get("ai.wave");
+  const Value form = dev.state().get("ai.wave");
   std::vector<Wave> waves;
   for (int ch = 0; ch < channels; ++ch) {
     Value one;
-    if (spec.isSequence() && spec.size() > 0)
-      one = spec.asList()[static_cast<size_t>(ch) % spec.size()];
+    if (form.isSequence() && form.size() > 0)
+      one = form.asList()[static_cast<size_t>(ch) % form.size()];
     waves.emplace_back(one, ch, ratioOf(dev));
   }
   return waves;
