@@ -22,7 +22,7 @@ fi
 echo "== pip: build and test requirements"
 $PY -m pip install -q --disable-pip-version-check \
   "scikit-build-core>=0.10" "pybind11==3.1.0" "cmake>=3.20" ninja pytest pytest-timeout numpy \
-  "mypy==2.4.1"
+  "mypy==2.4.1" "python-can==4.6.1"
 
 echo "== pip install . (C++ core, simulator and extension)"
 $PY -m pip install -q --disable-pip-version-check --no-build-isolation .
