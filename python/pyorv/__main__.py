@@ -115,6 +115,58 @@ def _demo_digital(simulator):
         dev.close(verbose=False)
 
 
+def _demo_analog(simulator):
+    """A short analog stream from a simulated KestrelAin: sine waves on the
+    first channels, read back as volts; plotted when matplotlib is there."""
+    import pyorv.sim as sim
+
+    sim_dev = simulator.add_device(sim.DeviceConfig(model="KestrelAin", serial="SIMAIN01"))
+    sim_dev.state_set("ai.wave", [["sine", 2.0 + c, 5.0 * (c + 1), 0.0] for c in range(8)])
+    sim_dev.state_set("ai.flat_out", True)
+    n = 2000
+    dev = pyorv.KestrelAin(verbose=False)
+    try:
+        dev.connect(sim_dev.host, sim_dev.cmd_port, verbose=False)
+        dev.AI_open(0)
+        dev.AI_setMode(0, 1)  # N samples, then the stream ends
+        dev.AI_setNumSamples(0, n)
+        dev.AI_start(0)
+        samples = []
+        while len(samples) < n:
+            part = dev.AI_readStreaming(0, n - len(samples), 2.0)
+            if not part:
+                break
+            samples += part
+        peaks = [max(abs(s[c]) for s in samples) for c in range(3)] if samples else []
+        print(f"analog stream          KestrelAin {len(samples)} samples x "
+              f"{len(samples[0]) if samples else 0} channels; peaks of channels 0-2 "
+              + ", ".join(f"{p:.2f} V" for p in peaks))
+        _plot_analog(samples[:400])
+        dev.AI_close(0)
+        dev.disconnect(verbose=False)
+    finally:
+        dev.close(verbose=False)
+
+
+def _plot_analog(samples):
+    try:
+        import matplotlib
+        matplotlib.use("Agg")
+        import matplotlib.pyplot as plt
+    except ImportError:
+        return
+    fig, ax = plt.subplots(figsize=(8, 3))
+    for c in range(3):
+        ax.plot([s[c] for s in samples], label=f"channel {c}")
+    ax.set_xlabel("sample")
+    ax.set_ylabel("V")
+    ax.legend(loc="upper right")
+    fig.tight_layout()
+    fig.savefig("pyorv_demo_analog.png")
+    plt.close(fig)
+    print("                       plotted to pyorv_demo_analog.png")
+
+
 def cmd_demo(args):
     import pyorv.sim as sim
 
@@ -156,6 +208,7 @@ def cmd_demo(args):
                   f"{took:.2f} s; the simulator recorded {len(sent)} packets {sent}")
             dev.disconnect()
             _demo_digital(simulator)
+            _demo_analog(simulator)
         finally:
             dev.close()
     print("demo done")
