@@ -14697,6 +14697,9 @@ class MCX514Module(MCX514Driver):
     def _checkMCX514MotionPort(self, port: typing.Any) -> None:
         ...
     @property
+    def iniconfig(self) -> typing.Any:
+        ...
+    @property
     def inifile(self) -> str:
         ...
     @property

@@ -627,6 +627,17 @@ void bindModule(py::module_& m) {
            "AttributeError: no file opened yet."});
   cls.def_property_readonly("inifile", &M::inifile);
   cls.def_property_readonly("inimode", &M::inimode);
+  cls.def_property_readonly(
+      "iniconfig",
+      [](const M& m) {
+        const std::string text = m.iniconfigText();
+        py::object parser = py::module_::import("configparser").attr("ConfigParser")();
+        parser.attr("read_string")(text);
+        return parser;
+      },
+      "The settings the module's parser holds, as a configparser.ConfigParser read from its "
+      "text (a copy: changing it changes nothing here). AttributeError before "
+      "Motion_openCfgFile.");
 
   // Helpers of one register word or record (the port as the chip sees it).
   const char* helper = "(port, axis as usual)";

@@ -696,6 +696,12 @@ std::string MCX514Module::inimode() const {
   return inimode_;
 }
 
+std::string MCX514Module::iniconfigText() const {
+  if (!iniconfig_)
+    throw AttributeError("'" + model().class_name + "' object has no attribute 'iniconfig'");
+  return iniconfig_->text();
+}
+
 int MCX514Module::Motion_openCfgFile(const Call& c, const Value& filename) {
   if (!filename.isText())
     throw TypeError("stat: path should be string, not " + std::string(filename.typeName()));

@@ -132,6 +132,9 @@ class MCX514Module : public MCX514Driver {
   // Set by Motion_openCfgFile; reading them before raises AttributeError.
   std::string inifile() const;
   std::string inimode() const;
+  // The text the parser holds (what a save writes); before Motion_openCfgFile
+  // it raises AttributeError naming iniconfig.
+  std::string iniconfigText() const;
 
   // ---- helpers: one register word or one record at a time (no port translation) ----
   int Motion_setAlarmLimitEnable_(const Call& c, const Value& port, const Value& axis,

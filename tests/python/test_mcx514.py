@@ -487,7 +487,10 @@ def test_saved_file_is_what_configparser_writes(axis, tmp_path):
     path.write_text("")
     with pytest.raises(AttributeError):
         dev.Motion_saveCfgFile()
+    with pytest.raises(AttributeError):
+        dev.iniconfig
     assert dev.Motion_openCfgFile(str(path)) == 0
+    assert dev.iniconfig.sections() == []
     dev.Motion_cfgAxis(0, 2, 1, 1, 0, 0)
     dev._Motion_writeHomeSpeed(0, 2, 37.5, 100)
     assert dev.Motion_saveCfgFile() == 0
@@ -504,6 +507,7 @@ def test_saved_file_is_what_configparser_writes(axis, tmp_path):
         expected.write(f)
     assert ours == other.read_text()
     assert "stepper output = CW/CCW(Two Pulse)" in ours and "approach velocity percent = 37.5" in ours
+    assert dev.iniconfig.get("Axis_3", "Stepper Output") == "CW/CCW(Two Pulse)"
 
 
 def test_file_saved_edited_and_loaded_reaches_port_zero(axis, tmp_path):
