@@ -7,6 +7,7 @@
 #include <chrono>
 #include <cstring>
 
+#include "link/device.hpp"
 #include "link/error.hpp"
 #include "link/report.hpp"
 
@@ -64,12 +65,16 @@ int DataLogger::Logger_openFile(const std::string& filename, bool clear_old, boo
   }
   {
     std::lock_guard fl(file_m_);
-    // A second open replaces the first file; the first is closed.
+    // A second open takes the new file in place of the first (closed here).
     if (f_handle_) std::fclose(f_handle_);
     f_handle_ = f;
   }
   {
     std::lock_guard lk(m_);
+    // The gate is a plain lock released once: opening again (or after a
+    // close) releases it a second time, which fails after the new file is in
+    // place and before anything is printed.
+    if (gate_open_) throw GateAlreadyOpen("release unlocked lock");
     gate_open_ = true;
   }
   cv_.notify_all();

@@ -70,12 +70,14 @@ std::vector<int64_t> ThermalModule::Thermal_getPinMapPort_(const Value& thermal_
 }
 
 bool ThermalModule::_checkThermalPinState(const Call& c, const Value& port,
-                                          const std::vector<std::string>& allow_state) {
+                                          const Value& allow_state) {
   auto* sys = sibling<SystemModule>();
+  if (!sys) raise(ErrorId::APINotSupportError);
+  const auto& pairs = model().thermal_dict.at(static_cast<int>(port.asInt()));
   for (int64_t i : Thermal_getPinMapPort_(port)) {
-    const std::vector<std::string> pin_map = sys->Sys_getPinModeInPort(c, Value(i));
-    for (const PinPair& p : model().thermal_dict.at(static_cast<int>(port.asInt())))
-      if (p.port == i && !checkFuncPinMap<std::string>({p.port, p.pin}, pin_map, allow_state))
+    const Value pin_map = Value::listOf(sys->Sys_getPinModeInPort(c, Value(i)));
+    for (const PinPair& p : pairs)
+      if (p.port == i && !checkFuncPinMap(Value{p.port, p.pin}, pin_map, allow_state))
         raise(ErrorId::ThermalPortNotAvaliableError);
   }
   return true;
@@ -91,7 +93,8 @@ Bytes ThermalModule::portAndChannel(const Value& port, const Value& channel) {
 
 int ThermalModule::Thermal_open(const Call& c, const Value& port) {
   _checkThermalPort(port);
-  if (!model().thermal_board) _checkThermalPinState(c, port, {"Idle", "DI", "DO"});
+  if (!model().thermal_board)
+    _checkThermalPinState(c, port, Value::list({Value("Idle"), Value("DI"), Value("DO")}));
   const uint8_t data_out[] = {portByte(port)};
   return c.exchangeStatus(OPEN_THERMAL, data_out, 1);
 }

@@ -54,8 +54,7 @@ class ThermalModule : public ModuleBase {
   static bool _checkThermalRTDType(const Value& rtd_type);
   // Raises ThermalPortNotAvaliableError when a pin of the port is in a mode
   // outside allow_state.
-  bool _checkThermalPinState(const Call& c, const Value& port,
-                             const std::vector<std::string>& allow_state);
+  bool _checkThermalPinState(const Call& c, const Value& port, const Value& allow_state);
   // The distinct digital ports the thermal port's pins lie on.
   std::vector<int64_t> Thermal_getPinMapPort_(const Value& thermal_port);
 

@@ -107,6 +107,18 @@ void bindThermal(py::module_& m) {
   cls.def(
       "_checkThermalChipSelect",
       [](T& self, const Value& cs) { return self._checkThermalChipSelect(cs); }, py::arg("cs"));
+  defTwin(cls, &T::_checkThermalPinState,
+          {"_checkThermalPinState",
+           "Checks that every pin of the port is in one of the allowed modes.",
+           {kPort, {"allow_state", kStrs, "allowed pin modes, e.g. [\"Idle\", \"DI\", \"DO\"]"}},
+           {"bool", "True"},
+           "ThermalPortNotAvaliableError: a pin of the port in another mode."});
+  cls.def("_Thermal_getPinMapPort", &T::Thermal_getPinMapPort_, py::arg("thermal_port"),
+          "The pin-map ports of a thermal port.");
+  cls.def_static("_checkThermalFilterMode", &T::_checkThermalFilterMode, py::arg("mode"));
+  cls.def_static("_checkThermalSamplingMode", &T::_checkThermalSamplingMode, py::arg("mode"));
+  cls.def_static("_checkThermalTCType", &T::_checkThermalTCType, py::arg("tc_type"));
+  cls.def_static("_checkThermalRTDType", &T::_checkThermalRTDType, py::arg("rtd_type"));
 }
 
 void bindThermocouple(py::module_& m) {

@@ -96,6 +96,17 @@ def test_open_prints_the_name_and_a_bad_path_raises(logger, tmp_path, capsys):
         logger.Logger_openFile(str(tmp_path / "missing" / "b.csv"))
 
 
+def test_a_second_open_takes_the_new_file_then_raises(logger, tmp_path, capsys):
+    first, second = tmp_path / "a.csv", tmp_path / "b.csv"
+    logger.Logger_openFile(str(first), verbose=False)
+    with pytest.raises(RuntimeError, match="release unlocked lock"):
+        logger.Logger_openFile(str(second))
+    assert capsys.readouterr().out == "" and logger.filename == str(second)
+    logger.Logger_writeValue(1)
+    assert logger._Logger_flush()
+    assert second.read_bytes() == b"1\r\n" and first.read_bytes() == b""
+
+
 def test_a_row_that_is_not_iterable_is_refused(logger):
     with pytest.raises(csv.Error, match="iterable expected, not int"):
         logger.Logger_write2DList([1, 2])
