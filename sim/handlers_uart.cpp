@@ -134,9 +134,12 @@ Handler stopOrClose(bool close) {
 
 void write(Context& ctx, const Request& req) {
   const int port = portOf(ctx, req);
-  if (port < 0 || req.data.size() < 2) return status(ctx, req, kStatusUART);
+  // The reply echoes the port and the length ahead of the status.
+  const uint8_t length = req.data.size() >= 2 ? req.data[1] : uint8_t{0};
+  if (port < 0 || req.data.size() < 2)
+    return ctx.reply({req.data.empty() ? uint8_t{0} : req.data[0], length, kStatusUART});
   const Bytes bytes(req.data.begin() + 2, req.data.end());
-  status(ctx, req, 0);
+  ctx.reply({req.data[0], length, 0});
   SimDevice& dev = ctx.device();
   const Value wires = ctx.state().get("uart.loopback", Value::list({}));
   if (wires.isSequence())

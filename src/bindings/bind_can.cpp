@@ -167,9 +167,8 @@ void bindCAN(py::module_& m) {
       cls,
       {"CAN_read",
        "Takes received frames (one queue for the controller). The blocking method "
-       "waits until num_frames are there while the controller is open (closed: what "
-       "is there, at once); the awaitable twin takes what is there, up to num_frames, "
-       "without waiting.",
+       "waits until num_frames are there, open or not; the awaitable twin takes what "
+       "is there, up to num_frames, without waiting.",
        {kPort,
         {"num_frames", kInt, "how many frames; -1 for all that are there"},
         {"delay", kFloat, "kept for the interface; a frame wakes the reader at once", "0.005"}},

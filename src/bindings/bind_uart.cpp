@@ -109,8 +109,8 @@ void bindUART(py::module_& m) {
       cls,
       {"UART_read",
        "Takes received bytes of a UART. The blocking method waits until bytes_to_read "
-       "are there while the UARTs are open (closed: what is there, at once); the "
-       "awaitable twin takes what is there, up to bytes_to_read, without waiting.",
+       "are there, open or not; the awaitable twin takes what is there, up to "
+       "bytes_to_read, without waiting.",
        {kPort,
         {"bytes_to_read", kInt, "how many bytes; -1 for all that are there"},
         {"delay", kFloat, "kept for the interface; a byte wakes the reader at once", "0.005"}},

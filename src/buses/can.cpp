@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "buses/bus_pins.hpp"
 #include "digital/payload.hpp"
 #include "link/convert.hpp"
 #include "link/report.hpp"
@@ -123,16 +124,14 @@ bool CANModule::_checkCANTXPriority(const Value& mode) {
   return true;
 }
 
+// can_dict[port]: a port that is no key raises KeyError.
 std::vector<int64_t> CANModule::CAN_getPinMapPort_(const Value& CAN_port) {
-  const auto it = model().can_dict.find(static_cast<int>(CAN_port.asInt()));
-  if (it == model().can_dict.end()) raise(ErrorId::CANPortNotAvaliableError);
-  return busPinPorts(it->second);
+  return busPinMapPorts(model().can_dict, CAN_port);
 }
 
 void CANModule::_checkCANPinState_(const Call& c, const Value& port, const Value& allow_state) {
-  const auto it = model().can_dict.find(static_cast<int>(port.asInt()));
-  if (it == model().can_dict.end()) raise(ErrorId::CANPortNotAvaliableError);
-  checkBusPinState(c, *this, it->second, allow_state, ErrorId::CANPortNotAvaliableError);
+  checkBusPinState(*this, c, model().can_dict, port, allow_state,
+                   ErrorId::CANPortNotAvaliableError);
 }
 
 // ---------------------------------------------------------------------------
@@ -215,7 +214,6 @@ int CANModule::CAN_close(const Call& c, const Value& port) {
     if (status == 0) {
       stream_.gate().close();
       stream_.pushMarker();
-      pending_.wakeAll();  // reads waiting for frames that cannot come
     }
   }
   try {
@@ -300,9 +298,9 @@ std::vector<CANFrame> CANModule::CAN_read(const Call& c, const Value& port, cons
                                           double delay) {
   _checkCANPort(port);
   checkInputType(num_frames, kTypeInt);
-  (void)delay;  // a frame wakes the reader at once
-  const Bytes flat = takeFromQueue(
-      c, frames_, num_frames.asInt(), [this] { return stream_.gate().isOpen(); }, pending_);
+  // The blocking twin waits for its frames whether the port is open or not;
+  // the awaitable one takes what is there.
+  const Bytes flat = c.streaming(frames_, num_frames.asInt(), delay);
   std::vector<CANFrame> out;
   out.reserve(flat.size() / CAN_FRAME_BYTES);
   for (size_t at = 0; at + CAN_FRAME_BYTES <= flat.size(); at += CAN_FRAME_BYTES)

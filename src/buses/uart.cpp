@@ -1,5 +1,6 @@
 #include "buses/uart.hpp"
 
+#include "buses/bus_pins.hpp"
 #include "digital/payload.hpp"
 #include "link/convert.hpp"
 #include "link/report.hpp"
@@ -74,16 +75,14 @@ bool UARTModule::_checkUARTDataLength(const Value& data) {
   return true;
 }
 
+// uart_dict[port]: a port that is no key raises KeyError.
 std::vector<int64_t> UARTModule::UART_getPinMapPort_(const Value& UART_port) {
-  const auto it = model().uart_dict.find(static_cast<int>(UART_port.asInt()));
-  if (it == model().uart_dict.end()) raise(ErrorId::UARTPortNotAvaliableError);
-  return busPinPorts(it->second);
+  return busPinMapPorts(model().uart_dict, UART_port);
 }
 
 void UARTModule::_checkUARTPinState(const Call& c, const Value& port, const Value& allow_state) {
-  const auto it = model().uart_dict.find(static_cast<int>(port.asInt()));
-  if (it == model().uart_dict.end()) raise(ErrorId::UARTPortNotAvaliableError);
-  checkBusPinState(c, *this, it->second, allow_state, ErrorId::UARTPortNotAvaliableError);
+  checkBusPinState(*this, c, model().uart_dict, port, allow_state,
+                   ErrorId::UARTPortNotAvaliableError);
 }
 
 // ---------------------------------------------------------------------------
@@ -162,7 +161,6 @@ int UARTModule::UART_close(const Call& c, const Value& port) {
     if (status == 0) {
       for (Port& p : ports_) p.stream.gate().close();
       for (Port& p : ports_) p.stream.pushMarker();
-      pending_.wakeAll();  // reads waiting for bytes that cannot come
     }
   }
   try {
@@ -226,18 +224,17 @@ int UARTModule::UART_write(const Call& c, const Value& port, const Value& write_
   } else {
     for (const Value& item : write_data.asList()) out.push_back(portByte(Value(ordOf(item))));
   }
-  return c.exchangeStatus(WRITE_UART, out, 1);
+  // The reply echoes the port and the length ahead of the status.
+  return c.exchangeStatus(WRITE_UART, out, 2);
 }
 
 std::vector<std::string> UARTModule::UART_read(const Call& c, const Value& port,
                                                const Value& bytes_to_read, double delay) {
   _checkUARTPort(port);
   checkInputType(bytes_to_read, kTypeInt);
-  StreamQueue& queue = portOf(port.asInt()).signal;
-  (void)delay;  // a byte wakes the reader at once
-  Port& p = portOf(port.asInt());
-  const Bytes bytes = takeFromQueue(
-      c, queue, bytes_to_read.asInt(), [&p] { return p.stream.gate().isOpen(); }, pending_);
+  // The blocking twin waits for its bytes whether the port is open or not;
+  // the awaitable one takes what is there.
+  const Bytes bytes = c.streaming(portOf(port.asInt()).signal, bytes_to_read.asInt(), delay);
   std::vector<std::string> out;
   out.reserve(bytes.size());
   for (uint8_t b : bytes) out.push_back(charOf(b));

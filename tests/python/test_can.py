@@ -167,7 +167,14 @@ def test_close_stops_first_and_a_failed_stop_sends_no_close(plover_can):
     assert dev.CAN_close(1) == 0
     assert wire(s)[-2:] == [(STOP_CAN, b"\x01"), (CLOSE_CAN, b"\x01")]
     assert not dev.can_open_flag and not dev._canGateOpen()
-    assert dev.CAN_read(1, 3) == []  # closed: what is there, at once
+    got = []
+    t = threading.Thread(target=lambda: got.append(dev.CAN_read(1, 1)))
+    t.start()
+    assert not wait_until(lambda: got, timeout=0.2)  # closed: it waits for its frame all the same
+    assert dev.CAN_open(1) == 0
+    s.send(START_CAN, bytes([0, 0] + pyorv.CANFrame(7).frame_in_list))
+    t.join(5)
+    assert [f.id for f in got[0]] == [7]
 
 
 @pytest.mark.parametrize("call, error", [
@@ -185,6 +192,8 @@ def test_close_stops_first_and_a_failed_stop_sends_no_close(plover_can):
     (lambda d: d._CAN_setTXPriority(2, 0, 0), pyorv.CANPortNotAvaliableError),
     (lambda d: run(d._CAN_setTXPriority_async(1, 9, 9)), TypeError),
     (lambda d: run(d.CAN_open_async(0)), pyorv.CANPortNotAvaliableError),
+    (lambda d: d._CAN_getPinMapPort(2), KeyError),  # can_dict[2]
+    (lambda d: d._checkCANPinState_(2, ["Idle"]), KeyError),
 ])
 def test_argument_errors_send_nothing(plover_can, call, error):
     dev, s = plover_can

@@ -104,6 +104,8 @@ def test_commands_on_the_wire(plover, call, data):
     (lambda d: d._UART_startReading(2.0), pyorv.InputTypeNotCorrectError),
     (lambda d: run(d.UART_setParity_async(1, 9)), pyorv.UARTParityNotSupportError),
     (lambda d: run(d.UART_read_async(5, 1)), pyorv.UARTPortNotAvaliableError),
+    (lambda d: d._UART_getPinMapPort(5), KeyError),  # uart_dict[5]
+    (lambda d: d._checkUARTPinState(5, ["Idle"]), KeyError),
 ])
 def test_argument_errors_send_nothing(plover, call, error):
     dev, s = plover
@@ -140,26 +142,31 @@ def test_awaitable_read_takes_what_is_there_without_waiting(plover):
     assert run(dev.UART_read_async(1, 10)) == ["a", "b", "c"]
 
 
-def test_read_on_a_closed_port_returns_what_is_there_at_once(plover):
+def test_write_reads_its_status_behind_the_echoed_port_and_length(plover):
     dev, s = plover
-    assert dev.UART_read(1, 5) == []  # never opened: no wait
-    opened(plover, (1, 1))
-    dev.UART_write(1, "xyz")
-    assert wait_until(lambda: dev._uartSignalSize(1) == 3)
-    dev.UART_close(1)
-    assert dev.UART_read(1, 5) == ["x", "y", "z"]  # what was left, no wait for the rest
+    s.set_handler(WRITE_UART, answer([1, 23, 0]))
+    assert dev.UART_write(1, "ab") == 0
+    s.set_handler(WRITE_UART, answer([1, 2, 23]))
+    assert dev.UART_write(1, "ab") == pyorv.errFirmwareUART
+    assert run(dev.UART_write_async(1, "ab")) == pyorv.errFirmwareUART
 
 
-def test_a_close_ends_a_read_waiting_in_another_thread_with_what_is_there(plover):
-    dev, s = opened(plover, (1, 1))
-    dev.UART_write(1, "ab")
+def test_a_blocking_read_waits_for_its_count_open_or_not(plover):
+    dev, s = plover
+    assert dev.UART_read(1, -1) == [] and dev.UART_read(1, 0) == []
     got = []
-    t = threading.Thread(target=lambda: got.append(dev.UART_read(1, 10)))
+    t = threading.Thread(target=lambda: got.append(dev.UART_read(1, 3)))
     t.start()
-    assert not wait_until(lambda: got, timeout=0.2)  # 2 of 10: it waits
+    assert not wait_until(lambda: got, timeout=0.2)  # never opened: it waits all the same
+    opened(plover, (1, 1))
+    dev.UART_write(1, "ab")
+    assert not wait_until(lambda: got, timeout=0.2)  # 2 of 3
     assert dev.UART_close(1) == 0
+    assert not wait_until(lambda: got, timeout=0.2)  # a close does not end it
+    opened(plover, (1, 1))
+    dev.UART_write(1, "c")
     t.join(5)
-    assert got == [["a", "b"]]
+    assert got == [["a", "b", "c"]]
 
 
 def test_a_megabyte_stream_arrives_whole_and_overflow_drops_with_warnings(plover):
