@@ -70,6 +70,15 @@ const std::vector<PinPair>* portPins(Context& ctx, int port) {
 
 void status(Context& ctx, int port, uint8_t s) { ctx.reply({static_cast<uint8_t>(port), s}); }
 
+// A write's reply echoes the head of its payload (port, then the address or
+// the length) ahead of the status byte.
+void echoStatus(Context& ctx, const Request& req, size_t echo, uint8_t s) {
+  Bytes out(echo + 1, 0);
+  std::copy_n(req.data.begin(), std::min(echo, req.data.size()), out.begin());
+  out[echo] = s;
+  ctx.reply(out);
+}
+
 uint16_t sensorTemperature(Context& ctx) {
   const Value t = ctx.state().get("i2c.lm75.temp", Value(25.0));
   const double c = t.isNumber() ? t.asFloat() : 25.0;
@@ -155,17 +164,17 @@ void closeI2C(Context& ctx, const Request& req) {
 
 // A command on an open port: fn(bus) answers the status.
 template <typename Fn>
-void onOpenPort(Context& ctx, const Request& req, size_t need, Fn fn) {
+void onOpenPort(Context& ctx, const Request& req, size_t need, Fn fn, size_t echo = 1) {
   if (req.data.empty()) return;
   const int port = req.data[0];
-  if (!portPins(ctx, port) || req.data.size() < need) return status(ctx, port, kStatusI2C);
+  if (!portPins(ctx, port) || req.data.size() < need) return echoStatus(ctx, req, echo, kStatusI2C);
   uint8_t s = kStatusI2C;
   {
     auto sim = ctx.state().slot<I2CSim>();
     I2CBus& bus = sim->buses[port];
     if (bus.open) s = fn(bus);
   }
-  status(ctx, port, s);
+  echoStatus(ctx, req, echo, s);
 }
 
 void resetI2C(Context& ctx, const Request& req) {
@@ -193,13 +202,16 @@ void setAddrSize(Context& ctx, const Request& req) {
   });
 }
 
-// port, address, count, bytes
+// port, address, count, bytes -> port, address, count, status
 void writeI2C(Context& ctx, const Request& req) {
   const Bytes& d = req.data;
-  onOpenPort(ctx, req, 3, [&](I2CBus& bus) {
-    const size_t n = std::min<size_t>(d[2], d.size() - 3);
-    return slaveWrite(bus, d[1], std::span(d).subspan(3, n)) ? uint8_t{0} : kStatusI2C;
-  });
+  onOpenPort(
+      ctx, req, 3,
+      [&](I2CBus& bus) {
+        const size_t n = std::min<size_t>(d[2], d.size() - 3);
+        return slaveWrite(bus, d[1], std::span(d).subspan(3, n)) ? uint8_t{0} : kStatusI2C;
+      },
+      3);
 }
 
 // port, address, count -> port, status, count, bytes

@@ -7,8 +7,8 @@
 // six, with 0..5 one of them, each as four bytes from reply byte 2.
 //
 // The potentiometer has one port, 0, with four channels.  POT_WRITE_ALL_CS
-// stores four 32-bit floats; POT_READ answers the stored float's 32 bits from
-// reply byte 2.  The ratios are mirrored in "dpot.ratios" (four floats).
+// stores four 32-bit floats and answers [port, 4, status]; POT_READ answers the stored float's 32
+// bits from reply byte 2.  The ratios are mirrored in "dpot.ratios" (four floats).
 #include <array>
 #include <bit>
 #include <vector>
@@ -55,7 +55,7 @@ struct DpotSim {
 void potWriteAll(Context& ctx, const Request& req) {
   if (req.data.empty()) return;
   const uint8_t port = req.data[0];
-  if (port != 0 || req.data.size() < 17) return ctx.reply({port, kStatusPinIndex});
+  if (port != 0 || req.data.size() < 17) return ctx.reply({port, 4, kStatusPinIndex});
   Value::List mirrored;
   {
     auto s = ctx.state().slot<DpotSim>();
@@ -68,7 +68,7 @@ void potWriteAll(Context& ctx, const Request& req) {
     }
   }
   ctx.state().set("dpot.ratios", Value::list(std::move(mirrored)));
-  ctx.reply({port, 0});
+  ctx.reply({port, 4, 0});
 }
 
 void potRead(Context& ctx, const Request& req) {

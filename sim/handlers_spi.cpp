@@ -62,6 +62,15 @@ const std::vector<PinPair>* portPins(Context& ctx, int port) {
 
 void status(Context& ctx, int port, uint8_t s) { ctx.reply({static_cast<uint8_t>(port), s}); }
 
+// A write's reply echoes the head of its payload (port, then the address or
+// the length) ahead of the status byte.
+void echoStatus(Context& ctx, const Request& req, size_t echo, uint8_t s) {
+  Bytes out(echo + 1, 0);
+  std::copy_n(req.data.begin(), std::min(echo, req.data.size()), out.begin());
+  out[echo] = s;
+  ctx.reply(out);
+}
+
 // One transfer with the slave; returns the bytes on MISO.
 Bytes transfer(Context& ctx, std::span<const uint8_t> mosi) {
   DeviceState& st = ctx.state();
@@ -120,17 +129,17 @@ void closeSPI(Context& ctx, const Request& req) {
 
 // A command on an open port: fn(port state) answers the status.
 template <typename Fn>
-void onOpenPort(Context& ctx, const Request& req, size_t need, Fn fn) {
+void onOpenPort(Context& ctx, const Request& req, size_t need, Fn fn, size_t echo = 1) {
   if (req.data.empty()) return;
   const int port = req.data[0];
-  if (!portPins(ctx, port) || req.data.size() < need) return status(ctx, port, kStatusSPI);
+  if (!portPins(ctx, port) || req.data.size() < need) return echoStatus(ctx, req, echo, kStatusSPI);
   uint8_t s = kStatusSPI;
   {
     auto sim = ctx.state().slot<SpiSim>();
     SpiPort& p = sim->ports[port];
     if (p.open) s = fn(p);
   }
-  status(ctx, port, s);
+  echoStatus(ctx, req, echo, s);
 }
 
 // A setting of one byte, 0..max, kept under "spi.<name>.<port>".
@@ -170,13 +179,16 @@ void resetSPI(Context& ctx, const Request& req) {
   onOpenPort(ctx, req, 1, [](SpiPort&) { return uint8_t{0}; });
 }
 
-// port, count, bytes
+// port, count, bytes -> port, count, status
 void writeSPI(Context& ctx, const Request& req) {
   const Bytes& d = req.data;
-  onOpenPort(ctx, req, 2, [&](SpiPort&) {
-    transfer(ctx, std::span(d).subspan(2, std::min<size_t>(d[1], d.size() - 2)));
-    return uint8_t{0};
-  });
+  onOpenPort(
+      ctx, req, 2,
+      [&](SpiPort&) {
+        transfer(ctx, std::span(d).subspan(2, std::min<size_t>(d[1], d.size() - 2)));
+        return uint8_t{0};
+      },
+      2);
 }
 
 // A transfer whose MISO bytes are the reply: MOSI from the payload or zeros.

@@ -8250,6 +8250,18 @@ class ThermalModule:
     """
     Temperature inputs: what thermocouples and resistance sensors share.
     """
+    @staticmethod
+    def _checkThermalFilterMode(mode: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkThermalRTDType(rtd_type: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkThermalSamplingMode(mode: typing.Any) -> bool:
+        ...
+    @staticmethod
+    def _checkThermalTCType(tc_type: typing.Any) -> bool:
+        ...
     def Thermal_close(self, port: int, timeout: float = 3) -> int:
         """
         Closes a thermal port; on KestrelTherm nothing is checked or sent and 0 returned.
@@ -8383,6 +8395,10 @@ class ThermalModule:
             InputTypeNotCorrectError: port or channel is not an int.
             ThermalPortNotAvaliableError: port is not a key of thermal_dict.
             ThermalChipSelectNotAvaliableError: channel is out of range.
+        """
+    def _Thermal_getPinMapPort(self, thermal_port: typing.Any) -> list[int]:
+        """
+        The pin-map ports of a thermal port.
         """
     def _Thermal_loadOffset(self, port: int, channel: int, timeout: float = 3) -> float:
         """
@@ -8564,6 +8580,36 @@ class ThermalModule:
         """
     def _checkThermalChipSelect(self, cs: typing.Any) -> bool:
         ...
+    def _checkThermalPinState(self, port: int, allow_state: list[str], timeout: float = 3) -> bool:
+        """
+        Checks that every pin of the port is in one of the allowed modes.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            allow_state (list[str]): allowed pin modes, e.g. ["Idle", "DI", "DO"]
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            bool: True
+        
+        Raises, before anything is sent:
+            ThermalPortNotAvaliableError: a pin of the port in another mode.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _checkThermalPinState_async(self, port: int, allow_state: list[str]) -> collections.abc.Coroutine[typing.Any, typing.Any, bool]:
+        """
+        Awaitable _checkThermalPinState, without timeout: Checks that every pin of the port is in one of the allowed modes.
+        
+        Args:
+            port (int): thermal port, a key of thermal_dict
+            allow_state (list[str]): allowed pin modes, e.g. ["Idle", "DI", "DO"]
+        
+        Returns:
+            bool: True
+        
+        Raises, before anything is sent:
+            ThermalPortNotAvaliableError: a pin of the port in another mode.
+        """
     def _checkThermalPort(self, port: typing.Any) -> bool:
         ...
 class AHRSModule:
@@ -10379,7 +10425,7 @@ class CANModule:
         """
     def CAN_read(self, port: int, num_frames: int, delay: float = 0.005) -> list[CANFrame]:
         """
-        Takes received frames (one queue for the controller). The blocking method waits until num_frames are there while the controller is open (closed: what is there, at once); the awaitable twin takes what is there, up to num_frames, without waiting.
+        Takes received frames (one queue for the controller). The blocking method waits until num_frames are there, open or not; the awaitable twin takes what is there, up to num_frames, without waiting.
         
         Args:
             port (int): CAN port, a key of can_dict
@@ -10395,7 +10441,7 @@ class CANModule:
         """
     def CAN_read_async(self, port: int, num_frames: int, delay: float = 0.005) -> collections.abc.Coroutine[typing.Any, typing.Any, list[CANFrame]]:
         """
-        Awaitable CAN_read, without timeout: Takes received frames (one queue for the controller). The blocking method waits until num_frames are there while the controller is open (closed: what is there, at once); the awaitable twin takes what is there, up to num_frames, without waiting.
+        Awaitable CAN_read, without timeout: Takes received frames (one queue for the controller). The blocking method waits until num_frames are there, open or not; the awaitable twin takes what is there, up to num_frames, without waiting.
         
         Args:
             port (int): CAN port, a key of can_dict
@@ -14698,7 +14744,9 @@ class MCX514Module(MCX514Driver):
         ...
     @property
     def iniconfig(self) -> typing.Any:
-        ...
+        """
+        The settings the module's parser holds, as a configparser.ConfigParser read from its text (a copy: changing it changes nothing here). AttributeError before Motion_openCfgFile.
+        """
     @property
     def inifile(self) -> str:
         ...
@@ -16919,7 +16967,7 @@ class UARTModule:
         """
     def UART_read(self, port: int, bytes_to_read: int, delay: float = 0.005) -> list[str]:
         """
-        Takes received bytes of a UART. The blocking method waits until bytes_to_read are there while the UARTs are open (closed: what is there, at once); the awaitable twin takes what is there, up to bytes_to_read, without waiting.
+        Takes received bytes of a UART. The blocking method waits until bytes_to_read are there, open or not; the awaitable twin takes what is there, up to bytes_to_read, without waiting.
         
         Args:
             port (int): UART port, a key of uart_dict (1 or 2)
@@ -16935,7 +16983,7 @@ class UARTModule:
         """
     def UART_read_async(self, port: int, bytes_to_read: int, delay: float = 0.005) -> collections.abc.Coroutine[typing.Any, typing.Any, list[str]]:
         """
-        Awaitable UART_read, without timeout: Takes received bytes of a UART. The blocking method waits until bytes_to_read are there while the UARTs are open (closed: what is there, at once); the awaitable twin takes what is there, up to bytes_to_read, without waiting.
+        Awaitable UART_read, without timeout: Takes received bytes of a UART. The blocking method waits until bytes_to_read are there, open or not; the awaitable twin takes what is there, up to bytes_to_read, without waiting.
         
         Args:
             port (int): UART port, a key of uart_dict (1 or 2)

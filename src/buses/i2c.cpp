@@ -84,7 +84,8 @@ int I2CModule::I2C_write(const Call& c, const Value& port, const Value& write_ad
   // here: a value that does not fit a byte is refused as the payload is made.
   Bytes out{portByte(port), portByte(write_address), portByte(Value(write_data.size()))};
   for (const Value& b : write_data.asList()) out.push_back(portByte(b));
-  return c.exchangeStatus(WRITE_I2C, out, 1);
+  // The reply echoes the port, the address and the count ahead of the status.
+  return c.exchangeStatus(WRITE_I2C, out, 3);
 }
 
 std::vector<int64_t> I2CModule::I2C_read(const Call& c, const Value& port,

@@ -116,7 +116,8 @@ int SPIModule::SPI_setPrescaler(const Call& c, const Value& port, const Value& p
 int SPIModule::SPI_write(const Call& c, const Value& port, const Value& write_data) {
   _checkSPIPort(port);
   checkInputType(write_data, kTypeList);
-  return c.exchangeStatus(WRITE_SPI, dataPayload(port, write_data), 1);
+  // The reply echoes the port and the count ahead of the status.
+  return c.exchangeStatus(WRITE_SPI, dataPayload(port, write_data), 2);
 }
 
 std::vector<int64_t> SPIModule::SPI_readAndWrite(const Call& c, const Value& port,

@@ -42,7 +42,8 @@ int DPOTModule::DPOT_writeAllChannel(const Call& c, const Value& port,
   _checkDPOTChannelAmount(resistance_ratio);
   Bytes out{portByte(port)};
   for (const Value& r : resistance_ratio.asList()) appendF32(out, r);
-  return c.exchangeStatus(POT_WRITE_ALL_CS, out, 1);
+  // The status follows the port and one more byte of the reply.
+  return c.exchangeStatus(POT_WRITE_ALL_CS, out, 2);
 }
 
 }  // namespace orv

@@ -97,7 +97,7 @@ def test_dpot_write_read_and_status(res):
     with pytest.raises(ValueError):
         dev.DPOT_readByChannel(0, 9)
     assert wire(s)[-1] == (POT_READ, bytes([0, 9]))
-    s.set_handler(POT_WRITE_ALL_CS, lambda ctx, req: ctx.reply(bytes([0, 11])))
+    s.set_handler(POT_WRITE_ALL_CS, lambda ctx, req: ctx.reply(bytes([0, 4, 11])))  # status at byte 2
     assert dev.DPOT_writeAllChannel(0, [0.25, 0.5, 0.75, 1.0]) == -7001
 
 

@@ -128,7 +128,7 @@ def test_the_second_port_streams_only_once_its_reading_is_started(plover):
     dev.UART_write(1, "lost")
     assert dev.UART_read(2, -1) == []
     assert dev._UART_startReading(2) == 0
-    assert s.wait_for_packets(4) and last(s) == (START_UART_READING, b"\x02")
+    assert wait_until(lambda: last(s) == (START_UART_READING, b"\x02"))
     dev.UART_write(1, "wired")
     assert dev.UART_read(2, 5) == list("wired")
     assert run(dev.UART_read_async(1, -1)) == []  # nothing came back on port 1
