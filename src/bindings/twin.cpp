@@ -20,9 +20,13 @@ namespace orv::py_bind {
 namespace {
 
 // The reactor of an asyncio loop: an eventfd the loop watches for work posted
-// from other threads (a reply handed over by a receive thread, a cancel), and
-// a timerfd for the deadlines of the waits.  Holds no Python object, so that
-// the last owner may drop it on any thread.
+// from other threads (a reply handed over by a receive thread, a cancel), a
+// timerfd for the deadlines of the waits, and the epoll descriptor of the
+// sockets the loop reads itself for its awaitables (InputWatches).  Work
+// posted on the loop's own thread while one of these runs (a reply the loop
+// just read, for the fiber waiting for it) runs at the end of that same
+// callback: no write to the eventfd, no extra turn of the loop.  Holds no
+// Python object, so that the last owner may drop it on any thread.
 class LoopReactor : public Reactor {
  public:
   LoopReactor() {
@@ -39,7 +43,37 @@ class LoopReactor : public Reactor {
   int postFd() const { return efd_; }
   int timerFd() const { return tfd_; }
 
+  int inputFd() const { return watches_.fd(); }
+  InputWatches* inputWatches() override { return &watches_; }
+
+  // Marks the loop's thread as running this reactor's work; the outermost
+  // one runs what was posted meanwhile and arms the socket watches again.
+  class Running {
+   public:
+    explicit Running(LoopReactor& r) : r_(r), outer_(t_running != &r) { t_running = &r; }
+    ~Running() {
+      if (!outer_) return;
+      while (!r_.local_.empty()) {
+        auto fn = std::move(r_.local_.front());
+        r_.local_.pop_front();
+        fn();
+      }
+      r_.watches_.finishRound();
+      t_running = nullptr;
+    }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+
+   private:
+    LoopReactor& r_;
+    bool outer_;
+  };
+
   void post(std::function<void()> fn) override {
+    if (t_running == this) {
+      local_.push_back(std::move(fn));
+      return;
+    }
     bool was_empty;
     {
       std::lock_guard lk(m_);
@@ -69,7 +103,13 @@ class LoopReactor : public Reactor {
   }
 
   // The loop's reader callbacks.
+  void runInput() {
+    Running running(*this);
+    watches_.runReady();
+  }
+
   void runPosted() {
+    Running running(*this);
     uint64_t n;
     [[maybe_unused]] auto r = read(efd_, &n, sizeof n);
     std::deque<std::function<void()>> work;
@@ -81,6 +121,7 @@ class LoopReactor : public Reactor {
   }
 
   void runTimers() {
+    Running running(*this);
     uint64_t n;
     [[maybe_unused]] auto r = read(tfd_, &n, sizeof n);
     armed_ = Clock::time_point::max();
@@ -109,7 +150,11 @@ class LoopReactor : public Reactor {
     efd_ = tfd_ = -1;
   }
 
+  static thread_local LoopReactor* t_running;
+
   int efd_ = -1, tfd_ = -1;
+  InputWatches watches_;
+  std::deque<std::function<void()>> local_;  // posted on the loop's thread
   std::mutex m_;
   std::deque<std::function<void()>> posted_;
   // Loop thread only.
@@ -118,6 +163,8 @@ class LoopReactor : public Reactor {
   uint64_t next_timer_ = 1;
   Clock::time_point armed_ = Clock::time_point::max();
 };
+
+thread_local LoopReactor* LoopReactor::t_running = nullptr;
 
 // One pending awaitable call; made, completed and freed on the loop's thread
 // with the GIL held.
@@ -185,6 +232,7 @@ std::shared_ptr<LoopReactor> reactorFor(const py::object& loop) {
   py::object obj = py::cast(reactor);
   loop.attr("add_reader")(reactor->postFd(), obj.attr("_run_posted"));
   loop.attr("add_reader")(reactor->timerFd(), obj.attr("_run_timers"));
+  loop.attr("add_reader")(reactor->inputFd(), obj.attr("_run_input"));
   if (PyObject_SetAttr(loop.ptr(), n.reactor.ptr(), obj.ptr()) != 0) {
     PyErr_Clear();
     reactors[loop] = obj;
@@ -216,7 +264,8 @@ void complete(Pending& p) {
 void bindReactor(py::module_& m) {
   py::class_<LoopReactor, std::shared_ptr<LoopReactor>>(m, "_LoopReactor")
       .def("_run_posted", &LoopReactor::runPosted)
-      .def("_run_timers", &LoopReactor::runTimers);
+      .def("_run_timers", &LoopReactor::runTimers)
+      .def("_run_input", &LoopReactor::runInput);
 }
 
 py::object startAwaitable(py::object keep, AsyncBody body) {
@@ -247,7 +296,10 @@ py::object startAwaitable(py::object keep, AsyncBody body) {
         }
         delete p;  // frees the fiber last: its stack is no longer in use
       });
-  p->fiber->resume();
+  {
+    LoopReactor::Running running(*reactor);
+    p->fiber->resume();
+  }
   return future;
 }
 

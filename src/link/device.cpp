@@ -343,22 +343,51 @@ void Device::sendBefore(int cmd, std::span<const uint8_t> data_out, Clock::time_
 namespace {
 thread_local ReaderRole* t_expecting = nullptr;
 
-// A blocking caller counts as waiting on its link's reader from before its
-// send: a reply that comes back before the caller starts to wait is left in
-// the socket for it, instead of waking the receive thread.
+// A caller counts as waiting on its link's reader from before its send: a
+// reply that comes back before the caller starts to wait is left in the
+// socket for it, instead of waking the receive thread.  A blocking caller
+// then reads the socket itself (leadOrFollow); an awaitable's event loop
+// watches it and reads it on the loop's thread (Device::loopRead) while the
+// awaitable is parked.  A nested wait of the same call is counted once.
 class ExpectReply {
  public:
-  explicit ExpectReply(Link* link) {
-    if (!link || t_expecting || Fiber::current()) return;
-    role_ = &link->role;
+  ExpectReply(Device& dev, Link* link) {
+    if (!link) return;
+    Fiber* fiber = Fiber::current();
+    if (fiber) {
+      if (fiber->loopReads() || !(watches_ = fiber->reactor()->inputWatches())) return;
+    } else if (t_expecting) {
+      return;
+    }
     client_ = std::dynamic_pointer_cast<NetworkClient>(link->client());
-    withHeldSocket(client_.get(),
-                   [this](const ReaderRole::SocketRef* held) { role_->enter(held); });
-    t_expecting = role_;
+    if (fiber && !client_) return;  // a USB link: its receive thread reads
+    withHeldSocket(client_.get(), [&](const ReaderRole::SocketRef* held) {
+      if (fiber) {
+        std::weak_ptr<Reactor> loop = fiber->reactor();
+        if (!held || !watches_->hold(link, held->fd,
+                                     [&dev, link, loop] { return dev.loopRead(*link, loop); }))
+          return;
+      }
+      role_ = &link->role;
+      role_->enter(held);
+    });
+    if (!role_) return;
+    if (fiber) {
+      fiber_ = fiber;
+      link_ = link;
+      fiber->setLoopReads(link);
+    } else {
+      t_expecting = role_;
+    }
   }
   ~ExpectReply() {
     if (!role_) return;
-    t_expecting = nullptr;
+    if (fiber_) {
+      fiber_->setLoopReads(nullptr);
+      watches_->release(link_);
+    } else {
+      t_expecting = nullptr;
+    }
     withHeldSocket(client_.get(),
                    [this](const ReaderRole::SocketRef* held) { role_->leave(held); });
   }
@@ -368,6 +397,9 @@ class ExpectReply {
  private:
   ReaderRole* role_ = nullptr;
   std::shared_ptr<NetworkClient> client_;
+  Fiber* fiber_ = nullptr;
+  InputWatches* watches_ = nullptr;
+  const Link* link_ = nullptr;
 };
 
 // A wait sleeps the calling thread, or on a fiber (an awaitable call) parks
@@ -412,7 +444,10 @@ Bytes Device::getReplyFromPool(int64_t key, double timeout, CancelToken* tok) {
 
 EchoPool::WaitResult Device::replyWait(int64_t key, Clock::time_point deadline, Bytes& out,
                                        CancelToken* tok) {
-  if (Fiber::current()) return fiberWaitPop(echo_, key, deadline, out, tok);
+  if (Fiber::current()) {
+    ExpectReply expecting(*this, commandLink());
+    return fiberWaitPop(echo_, key, deadline, out, tok);
+  }
   Link* link = commandLink();
   std::shared_ptr<Client> client = link ? link->client() : nullptr;
   if (auto* net = dynamic_cast<NetworkClient*>(client.get()); net && net->hasSocket())
@@ -424,7 +459,7 @@ EchoPool::WaitResult Device::leadOrFollow(Link& link, NetworkClient& client, int
                                           Clock::time_point deadline, Bytes& out,
                                           CancelToken* tok) {
   ReaderRole& role = link.role;
-  ExpectReply expecting(&link);
+  ExpectReply expecting(*this, &link);
   struct Leader {
     ReaderRole& role;
     bool leads = false;
@@ -508,6 +543,44 @@ EchoPool::WaitResult Device::leadOrFollow(Link& link, NetworkClient& client, int
   }
 }
 
+bool Device::loopRead(Link& link, const std::weak_ptr<Reactor>& loop) {
+  auto client = std::dynamic_pointer_cast<NetworkClient>(link.client());
+  if (!client) return false;
+  const void* key = &link;
+  // A blocking caller (or the thread) reading now dispatches what comes; when
+  // it gives the role back, the loop's watch is armed again.
+  const bool leads = link.role.tryLead([loop, key] {
+    if (auto reactor = loop.lock())
+      reactor->post([loop, key] {
+        if (auto r = loop.lock())
+          if (InputWatches* w = r->inputWatches()) w->rearm(key);
+      });
+  });
+  if (!leads) return false;
+  struct EndLead {
+    ReaderRole& role;
+    ~EndLead() { role.endLead(); }
+  } end{link.role};
+  thread_local Bytes raw;
+  // What the socket holds, without blocking; a flood is left to the next
+  // round, so that the loop's other work goes on.
+  for (int reads = 0; reads < 16; ++reads) {
+    NetworkClient::Recv got;
+    try {
+      got = client->recvWithin(link.read_size, Clock::time_point::min(), -1, raw);
+    } catch (const std::exception&) {
+      return false;
+    }
+    // A link that is down answers every read at once: its waits end by
+    // their deadline or the device's close.
+    if (got == NetworkClient::Recv::Closed) return false;
+    if (got != NetworkClient::Recv::Data) return true;
+    dispatch(link, *client, raw);
+    if (raw.size() < link.read_size) return true;  // a short read took all there was
+  }
+  return true;
+}
+
 Bytes Device::waitReply(int64_t key, Clock::time_point start, double timeout, CancelToken* tok) {
   Bytes out;
   const auto r = replyWait(key, deadlineAfter(start, timeout), out, tok);
@@ -537,7 +610,7 @@ Bytes Device::echoPacket(int cmd, std::span<const uint8_t> data_out, double time
   Bytes out;
   EchoPool::WaitResult r;
   {
-    ExpectReply expecting(commandLink());
+    ExpectReply expecting(*this, commandLink());
     try {
       sendBefore(cmd, data_out, deadlineAfter(start, timeout));
     } catch (const SendTimeout&) {
@@ -574,6 +647,7 @@ std::optional<Bytes> Device::echoPacketAsync(int cmd, std::span<const uint8_t> d
                                              double timeout, CancelToken* tok) {
   const int64_t key = echoKey(cmd, data_out);
   const auto deadline = fromNow(timeout);
+  ExpectReply expecting(*this, commandLink());
   try {
     sendBefore(cmd, data_out, deadline);
   } catch (const SendTimeout&) {

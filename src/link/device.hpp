@@ -32,6 +32,8 @@
 
 namespace orv {
 
+class Reactor;
+
 // A gate parks a receive thread while its link is down.  It stands for a lock
 // that one thread acquires (closing the gate) and another releases (opening
 // it); opening an open gate is the failure of releasing an unlocked lock.
@@ -175,6 +177,12 @@ class Device {
 
   // Names of receive threads still running (for lifecycle checks).
   std::vector<std::string> aliveThreads() const;
+
+  // The event loop's read of a socket link for its awaitables (run by the
+  // loop's InputWatches): what the socket holds, read and dispatched without
+  // blocking.  False when the loop should stop watching for now (another
+  // reader holds the link, or the link is down).
+  bool loopRead(Link& link, const std::weak_ptr<Reactor>& loop);
 
  protected:
   // The link commands go out on; LinkNotOpenError when there is none.

@@ -1,12 +1,15 @@
 #include "link/fiber.hpp"
 
+#include <sys/epoll.h>
 #include <sys/mman.h>
 #include <ucontext.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <mutex>
 #include <new>
+#include <system_error>
 #include <vector>
 
 #if defined(__has_feature)
@@ -178,6 +181,88 @@ void Fiber::suspend() {
 #ifdef ORV_ASAN
   __sanitizer_finish_switch_fiber(fake, &f->ctx_->caller_bottom, &f->ctx_->caller_size);
 #endif
+}
+
+// ---- sockets the loop reads ------------------------------------------------------
+
+InputWatches::InputWatches() {
+  epfd_ = ::epoll_create1(EPOLL_CLOEXEC);
+  if (epfd_ < 0) throw std::system_error(errno, std::generic_category(), "pyorv: socket watch");
+}
+
+InputWatches::~InputWatches() { ::close(epfd_); }
+
+void InputWatches::arm(const void* key, Watch& w, bool on) {
+  if (w.fd < 0) return;
+  epoll_event ev{};
+  ev.events = EPOLLONESHOT | (on ? EPOLLIN : 0u);
+  ev.data.ptr = const_cast<void*>(key);
+  // A socket closed since left the set by itself: nothing to arm.
+  w.armed = ::epoll_ctl(epfd_, EPOLL_CTL_MOD, w.fd, &ev) == 0 && on;
+}
+
+bool InputWatches::hold(const void* key, int fd, std::function<bool()> on_input) {
+  auto it = watches_.find(key);
+  if (it != watches_.end() && it->second.fd == fd) {
+    Watch& w = it->second;
+    if (w.holds++ > 0) return true;  // watched for another waiter already
+    w.on_input = std::move(on_input);
+    arm(key, w, true);  // kept from an earlier call: one system call
+    if (w.armed) return true;
+    --w.holds;  // the socket left the set (closed, its number reused): anew
+  }
+  // A number held under another key belonged to a socket closed since.
+  for (auto& [k, other] : watches_)
+    if (k != key && other.fd == fd) {
+      other.fd = -1;
+      other.armed = false;
+    }
+  epoll_event ev{};
+  ev.events = EPOLLONESHOT | EPOLLIN;
+  ev.data.ptr = const_cast<void*>(key);
+  int rc = ::epoll_ctl(epfd_, EPOLL_CTL_ADD, fd, &ev);
+  if (rc != 0 && errno == EEXIST) rc = ::epoll_ctl(epfd_, EPOLL_CTL_MOD, fd, &ev);
+  if (rc != 0) return false;
+  Watch& w = watches_[key];
+  w.fd = fd;
+  w.armed = true;
+  w.on_input = std::move(on_input);
+  ++w.holds;
+  return true;
+}
+
+void InputWatches::release(const void* key) {
+  auto it = watches_.find(key);
+  if (it == watches_.end() || it->second.holds == 0) return;
+  Watch& w = it->second;
+  if (--w.holds > 0) return;
+  w.on_input = nullptr;  // it refers to the link's owner, which may go now
+  if (w.armed) arm(key, w, false);
+}
+
+void InputWatches::rearm(const void* key) {
+  auto it = watches_.find(key);
+  if (it != watches_.end() && it->second.holds > 0 && !it->second.armed) arm(key, it->second, true);
+}
+
+void InputWatches::runReady() {
+  epoll_event evs[64];
+  const int n = ::epoll_wait(epfd_, evs, 64, 0);
+  for (int i = 0; i < n; ++i) {
+    auto it = watches_.find(evs[i].data.ptr);
+    if (it == watches_.end()) continue;
+    Watch& w = it->second;
+    w.armed = false;
+    if (w.holds == 0 || w.fd < 0 || !w.on_input) continue;
+    // on_input reads and dispatches: replies are posted to their fibers,
+    // which run after this round, so the table does not change under it.
+    if (w.on_input()) again_.push_back(evs[i].data.ptr);
+  }
+}
+
+void InputWatches::finishRound() {
+  for (const void* key : again_) rearm(key);
+  again_.clear();
 }
 
 // ---- waits on a fiber ------------------------------------------------------------

@@ -18,10 +18,57 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <unordered_map>
+#include <vector>
 
 #include "link/pools.hpp"
 
 namespace orv {
+
+// The sockets an event loop reads itself.  The loop waits on one descriptor
+// (fd()) for all of them; a link is watched while at least one awaitable of
+// the loop waits for a reply through it, and its `on_input` (which reads and
+// dispatches what the socket holds) then runs on the loop's thread as soon as
+// input is there: no other thread is woken on a reply's way to its awaitable.
+// A watch is one-shot: after on_input it is armed again if on_input returned
+// true and the link is still held; a false answer (somebody else reads the
+// link now, or it is down) leaves it idle until rearm().  Loop thread only.
+class InputWatches {
+ public:
+  InputWatches();
+  ~InputWatches();
+  InputWatches(const InputWatches&) = delete;
+  InputWatches& operator=(const InputWatches&) = delete;
+
+  int fd() const { return epfd_; }
+  // One more waiter needs `key`'s socket `fd` read; the first hold's
+  // `on_input` serves them all.  False when the socket cannot be watched.
+  bool hold(const void* key, int fd, std::function<bool()> on_input);
+  void release(const void* key);
+  // Arms an idle watch again (the link's reader came free).
+  void rearm(const void* key);
+  // Runs on_input of the watches that have input.
+  void runReady();
+  // After runReady and the work it posted: arms again the watches whose
+  // on_input asked for it and that are still held (a waiter that got its
+  // reply meanwhile has released its hold: no system call for it).
+  void finishRound();
+
+ private:
+  struct Watch {
+    int fd = -1;  // -1: the socket was closed (its number now serves another)
+    int holds = 0;
+    bool armed = false;
+    std::function<bool()> on_input;
+  };
+  void arm(const void* key, Watch& w, bool on);
+
+  int epfd_ = -1;
+  // Kept when released, disarmed: the next hold of the link re-arms it with
+  // one system call.
+  std::unordered_map<const void*, Watch> watches_;
+  std::vector<const void*> again_;  // read this round, to arm again
+};
 
 // The event loop an awaitable call runs on.
 class Reactor {
@@ -33,6 +80,9 @@ class Reactor {
   // first.  Called on the loop's thread only; ids are never 0.
   virtual uint64_t callAt(Clock::time_point when, std::function<void()> fn) = 0;
   virtual void cancelTimer(uint64_t id) = 0;
+  // The loop's socket watches, or nullptr for a loop that cannot watch a
+  // descriptor (the link's receive thread then reads for its awaitables).
+  virtual InputWatches* inputWatches() { return nullptr; }
 };
 
 class Fiber {
@@ -54,6 +104,10 @@ class Fiber {
   static void suspend();
 
   const std::shared_ptr<Reactor>& reactor() const { return reactor_; }
+  // The link whose socket the loop reads for this fiber's call (a nested
+  // wait of the same call finds it watched already).
+  const void* loopReads() const { return loop_reads_; }
+  void setLoopReads(const void* link) { loop_reads_ = link; }
 
  private:
   struct Context;
@@ -64,6 +118,7 @@ class Fiber {
   std::function<void()> on_done_;
   std::unique_ptr<Context> ctx_;
   bool done_ = false;
+  const void* loop_reads_ = nullptr;
 };
 
 // The waits of a body running on a fiber, with the results of their thread

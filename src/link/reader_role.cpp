@@ -107,6 +107,7 @@ bool ReaderRole::threadWait() {
 
 void ReaderRole::threadDone(const SocketRef* held) {
   bool followers = false;
+  std::vector<std::function<void()>> loops;
   {
     std::lock_guard lk(m_);
     holder_ = Holder::None;
@@ -115,8 +116,10 @@ void ReaderRole::threadDone(const SocketRef* held) {
       armLocked(true, held);
     else
       followers = true;
+    if (!when_free_.empty()) loops.swap(when_free_);
   }
   if (followers && on_free_) on_free_();
+  for (auto& fn : loops) fn();
 }
 
 void ReaderRole::wake() { signalFd(thread_wake_fd_); }
@@ -139,15 +142,29 @@ bool ReaderRole::tryLead() {
   return true;
 }
 
+bool ReaderRole::tryLead(std::function<void()> when_free) {
+  std::lock_guard lk(m_);
+  if (holder_ != Holder::None) {
+    when_free_.push_back(std::move(when_free));
+    return false;
+  }
+  holder_ = Holder::Caller;
+  free_.store(false, std::memory_order_release);
+  return true;
+}
+
 void ReaderRole::endLead() {
   bool followers = false;
+  std::vector<std::function<void()>> loops;
   {
     std::lock_guard lk(m_);
     holder_ = Holder::None;
     free_.store(true, std::memory_order_release);
     followers = callers_ > 1;
+    if (!when_free_.empty()) loops.swap(when_free_);
   }
   if (followers && on_free_) on_free_();
+  for (auto& fn : loops) fn();
 }
 
 void ReaderRole::wakeLeader() { signalFd(leader_wake_fd_); }

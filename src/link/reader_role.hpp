@@ -8,6 +8,10 @@
 //       takes the role and reads until its own reply is there; the others
 //       wait in the pool and take the role in turn when it is given back.
 //       The reply so reaches its caller with no thread in between.
+//   an event loop, for its awaitables waiting for a reply (link/fiber.hpp):
+//       the loop watches the socket and reads what is there on its own
+//       thread, without blocking, whenever it has input; awaitables count as
+//       callers, so the thread stands aside meanwhile.
 //   the receive thread, while no caller waits: it sleeps in epoll on the
 //       socket (armed one-shot) and on a wake descriptor, and reads one
 //       buffer per wake-up.
@@ -23,6 +27,7 @@
 #include <cstdint>
 #include <functional>
 #include <mutex>
+#include <vector>
 
 namespace orv {
 
@@ -61,6 +66,9 @@ class ReaderRole {
   void leave(const SocketRef* held);
   // Takes the role when nobody holds it.
   bool tryLead();
+  // The same for an event loop reading for its awaitables: when the role is
+  // held, `when_free` runs once it is given back (on the giving thread).
+  bool tryLead(std::function<void()> when_free);
   void endLead();
   // Nobody holds the role (a waiting follower may take it).
   bool free() const { return free_.load(std::memory_order_acquire); }
@@ -84,6 +92,7 @@ class ReaderRole {
   uint64_t sock_id_ = 0;
   bool armed_ = false;
   std::function<void()> on_free_;
+  std::vector<std::function<void()>> when_free_;
 };
 
 }  // namespace orv

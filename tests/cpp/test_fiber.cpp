@@ -1,6 +1,9 @@
 // Awaitable exchanges on fibers: many calls pending on one thread, each ended
 // by its reply, its deadline, a cancel or the device's close.
 #include <gtest/gtest.h>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
 
 #include <condition_variable>
 #include <deque>
@@ -20,16 +23,21 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int kSilentCmd = 120;  // a command no handler answers
+constexpr int kSerialCmd = 122;  // the serial number: another key than the driver info
 
-// A loop on the test's thread: posted work and timers, nothing else.
+// A loop on the test's thread: posted work, timers and, unless told not to,
+// the sockets it reads for its awaitables.
 class TestLoop : public Reactor {
  public:
+  explicit TestLoop(bool reads_sockets = true) : reads_(reads_sockets) {}
+  ~TestLoop() override { ::close(efd_); }
   void post(std::function<void()> fn) override {
     {
       std::lock_guard lk(m_);
       posted_.push_back(std::move(fn));
     }
-    cv_.notify_one();
+    const uint64_t one = 1;
+    EXPECT_EQ(::write(efd_, &one, sizeof one), 8);
   }
   uint64_t callAt(Clock::time_point when, std::function<void()> fn) override {
     timers_[{when, ++next_}] = std::move(fn);
@@ -38,32 +46,42 @@ class TestLoop : public Reactor {
   void cancelTimer(uint64_t id) override {
     std::erase_if(timers_, [id](const auto& t) { return t.first.second == id; });
   }
+  InputWatches* inputWatches() override { return reads_ ? &watches_ : nullptr; }
   // Runs until `done` holds or `limit` seconds pass; false on the limit.
   bool runUntil(const std::function<bool()>& done, double limit) {
     const auto end = Clock::now() + std::chrono::duration_cast<Clock::duration>(
                                         std::chrono::duration<double>(limit));
     while (!done()) {
-      if (Clock::now() >= end) return false;
+      const auto now = Clock::now();
+      if (now >= end) return false;
+      const auto until = timers_.empty() ? end : std::min(end, timers_.begin()->first.first);
+      const auto ms = std::chrono::ceil<std::chrono::milliseconds>(until - now).count();
+      pollfd p[2] = {{efd_, POLLIN, 0}, {watches_.fd(), POLLIN, 0}};
+      ::poll(p, 2, static_cast<int>(ms));
+      uint64_t n;
+      [[maybe_unused]] const auto r = ::read(efd_, &n, sizeof n);
       std::deque<std::function<void()>> work;
       {
-        std::unique_lock lk(m_);
-        auto until = timers_.empty() ? end : std::min(end, timers_.begin()->first.first);
-        cv_.wait_until(lk, until, [&] { return !posted_.empty(); });
+        std::lock_guard lk(m_);
         work.swap(posted_);
       }
       for (auto& fn : work) fn();
+      if (p[1].revents) watches_.runReady();
       while (!timers_.empty() && timers_.begin()->first.first <= Clock::now()) {
         auto fn = std::move(timers_.begin()->second);
         timers_.erase(timers_.begin());
         fn();
       }
+      watches_.finishRound();
     }
     return true;
   }
 
  private:
+  bool reads_;
+  int efd_ = ::eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC);
+  InputWatches watches_;
   std::mutex m_;
-  std::condition_variable cv_;
   std::deque<std::function<void()>> posted_;
   std::map<std::pair<Clock::time_point, uint64_t>, std::function<void()>> timers_;
   uint64_t next_ = 0;
@@ -112,20 +130,36 @@ class Fibers : public testutil::OnSimulatedDevice {
   std::shared_ptr<TestLoop> loop_ = std::make_shared<TestLoop>();
 };
 
+// The loop reads the socket for its awaitables, or (a loop that watches no
+// descriptor) the link's receive thread does; blocking callers on other
+// threads share the link meanwhile, each side reading while the other waits.
 TEST_F(Fibers, ManyPendingCallsOnOneThreadEachGetAReply) {
-  const size_t threads = testutil::threadCount();
-  std::vector<std::unique_ptr<Call>> calls;
-  for (int i = 0; i < 300; ++i) calls.push_back(start(GET_DRIVER_INFO, {0}, 3, 3));
-  EXPECT_EQ(testutil::threadCount(), threads);  // a pending call holds no thread
-  ASSERT_TRUE(loop_->runUntil(
-      [&] { return std::all_of(calls.begin(), calls.end(), [](auto& c) { return c->done; }); },
-      20));
   const std::string info = sim_dev_->config().driver_info;
-  for (auto& c : calls) {
-    ASSERT_FALSE(c->error);
-    EXPECT_EQ(std::string(c->reply.begin(), c->reply.end()), info);
+  size_t sent = 0;
+  for (bool loop_reads : {true, false}) {
+    loop_ = std::make_shared<TestLoop>(loop_reads);
+    const size_t threads = testutil::threadCount();
+    std::vector<std::unique_ptr<Call>> calls;
+    for (int i = 0; i < 300; ++i) calls.push_back(start(GET_DRIVER_INFO, {0}, 3, 3));
+    EXPECT_EQ(testutil::threadCount(), threads);  // a pending call holds no thread
+    std::atomic<int> blocking_ok{0};
+    std::thread blocking([&] {
+      for (int i = 0; i < 100; ++i)
+        if (dev_->echoPacketWithRetry(kSerialCmd, Bytes{0}, 3).size() > 0) ++blocking_ok;
+    });
+    const bool ended = loop_->runUntil(
+        [&] { return std::all_of(calls.begin(), calls.end(), [](auto& c) { return c->done; }); },
+        20);
+    blocking.join();
+    ASSERT_TRUE(ended);
+    for (auto& c : calls) {
+      ASSERT_FALSE(c->error);
+      EXPECT_EQ(std::string(c->reply.begin(), c->reply.end()), info);
+    }
+    EXPECT_EQ(blocking_ok.load(), 100);
+    sent += 400;
+    EXPECT_EQ(sim_dev_->packets().size(), sent);
   }
-  EXPECT_EQ(sim_dev_->packets().size(), 300u);
 }
 
 TEST_F(Fibers, SilentDeviceEndsByTheDeadlineAfterEachAttempt) {
