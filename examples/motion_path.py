@@ -71,12 +71,17 @@ def write_outputs(path, out_dir):
 
 def main(out_dir=None):
     out_dir = out_dir or tempfile.mkdtemp(prefix="motion_path_")
+    os.makedirs(out_dir, exist_ok=True)
     with pyorv.sim.start(["MerlinAxis"], link="eth") as sim:
         sim_dev = sim.devices()[0]
-        with pyorv.MerlinAxis(verbose=False) as dev:
+        dev = pyorv.MerlinAxis(verbose=False)
+        try:
             dev.connect(sim_dev.host, sim_dev.cmd_port, verbose=False)
             sim_dev.state_set("mcx514.path", [])  # a new recording
             run_moves(dev)
+        finally:
+            dev.disconnect(verbose=False)
+            dev.close(verbose=False)
         path = sim_dev.state_get("mcx514.path")
     written = write_outputs(path, out_dir)
     for p in written:
