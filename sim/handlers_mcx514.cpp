@@ -39,8 +39,9 @@
 //                             end of a drive and every 0.1 s of moving.  The
 //                             host sets it to [] to start a new recording.
 // Not simulated: software limits, alarm and in-position inputs, the
-// synchronous actions other than capture, the reversing override, pattern
-// interpolation, split pulses and the timer.
+// synchronous actions other than capture (SYNC3) and the reversal at the end
+// of a drive (SYNC1), the break point pulse train, pattern interpolation,
+// split pulses and the timer.
 #include <chrono>
 #include <cstdint>
 #include <deque>

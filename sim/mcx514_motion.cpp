@@ -432,6 +432,7 @@ void Chip::advance(double t, const AxisInputs in[4]) {
   t_ = t;
   // Steps of at most 0.5 ms simulated, at most 4000 per call.
   const int steps = static_cast<int>(std::clamp(std::ceil(dt / 0.0005), 1.0, 4000.0));
+  uint8_t ended = 0;
   const double h = dt / steps;
   for (auto it = drives_.begin(); it != drives_.end();) {
     bool done = false;
@@ -440,22 +441,42 @@ void Chip::advance(double t, const AxisInputs in[4]) {
     if (done) {
       for (int i = 0; i < 4; ++i)
         if (bit(it->axes, i)) axis_[i].v = axis_[i].a = 0;
+      const uint8_t axes = it->kind == Drive::Kind::Single ? it->axes : 0;
       it = drives_.erase(it);
       ++ended_;
+      ended |= axes;
     } else {
       ++it;
     }
   }
+  for (int n = 0; n < 4; ++n)
+    if (bit(ended, n)) driveEnded(n, in);
 }
 
-void Chip::stopAxis(int n, bool instant) {
+// SYNC1 as the reversing velocity override arms it: activated by the end of
+// a drive (low nibble 6), it starts a continuous drive, + for action 0xD and
+// - for 0xE.  The simulated action fires once and disarms itself.
+void Chip::driveEnded(int n, const AxisInputs in[4]) {
+  Axis& a = axis_[n];
+  if (!bit(a.sync_enabled, 1)) return;
+  const uint32_t word = a.reg(MOTION_27_S1M);
+  if ((word & 0x0F) != 6) return;
+  const uint32_t action = (word >> 4) & 0x0F;
+  if (action != 0xD && action != 0xE) return;
+  a.sync_enabled &= static_cast<uint8_t>(~2u);
+  startSingle(n, action == 0xD ? MOTION_52_DRVVP : MOTION_53_DRVVM, in);
+}
+
+void Chip::stopAxis(int n, bool instant, const AxisInputs in[4]) {
   for (auto it = drives_.begin(); it != drives_.end(); ++it) {
     if (!bit(it->axes, n)) continue;
     if (instant || it->held) {
       for (int i = 0; i < 4; ++i)
         if (bit(it->axes, i)) axis_[i].v = axis_[i].a = 0;
+      const bool single = it->kind == Drive::Kind::Single;
       drives_.erase(it);
       ++ended_;
+      if (single) driveEnded(n, in);
     } else {
       it->stopping = true;
       it->pieces.resize(std::min<size_t>(it->pieces.size(), 1));  // no further search step
@@ -557,10 +578,10 @@ void Chip::write(int code, int axis_byte, uint32_t word, const AxisInputs in[4])
         if (!driving) startSearch(n, in);
         break;
       case MOTION_56_DRVSBRK:
-        stopAxis(n, false);
+        stopAxis(n, false, in);
         break;
       case MOTION_57_DRVFBRK:
-        stopAxis(n, true);
+        stopAxis(n, true, in);
         break;
       case MOTION_77_DHOLD:
         a.held = true;

@@ -144,7 +144,8 @@ class Chip {
   void begin(Drive d);
   bool step(Drive& d, double h, const AxisInputs in[4]);
   void place(Drive& d);
-  void stopAxis(int n, bool instant);
+  void stopAxis(int n, bool instant, const AxisInputs in[4]);
+  void driveEnded(int n, const AxisInputs in[4]);
   void capture(int n, int64_t where);
 
   Axis axis_[4];

@@ -501,13 +501,15 @@ def test_simulated_move_ramps_to_its_target(axis, accel_mode):
     assert done(dev, 0) and dev.Motion_getLogicalPosi(0, 0) == 8000
 
 
-def test_continuous_move_stops_on_command(axis):
+def test_continuous_move_reverses_then_stops(axis):
     dev, s = axis
-    dev.Motion_cfgAxisMove(0, 2, 2, 0, -50_000)
+    dev.Motion_cfgAxisMove(0, 2, 2, 0, 50_000)
     dev.Motion_startSingleAxisMove(0, 2)
-    assert wait_until(lambda: dev.Motion_getLogicalPosi(0, 2) < -100)
+    assert wait_until(lambda: dev.Motion_getLogicalPosi(0, 2) > 100)
     assert dev.Motion_getMoveStatus(0, 2) == 0 and dev._Motion_getCurrentDriveSpeed(0, 2) > 0
-    dev.Motion_stop(0, 2, 0)                    # decelerating
+    dev.Motion_overrideAxisVelocity(0, 2, -50_000)   # slows down, then SYNC1 drives back
+    assert wait_until(lambda: dev.Motion_getLogicalPosi(0, 2) < -100)
+    dev.Motion_stop(0, 2, 0)                          # decelerating, and no second reversal
     assert done(dev, 2) and dev._Motion_getCurrentDriveSpeed(0, 2) == 0
     stopped = dev.Motion_getLogicalPosi(0, 2)
     assert stopped < -100 and dev.Motion_getLogicalPosi(0, 2) == stopped
