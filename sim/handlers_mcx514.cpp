@@ -130,7 +130,7 @@ void record(DeviceState& st, Mcx514Sim& s) {
 }
 
 // Brings every chip of the device to now; true when a drive ended.
-bool advance(DeviceState& st, Mcx514Sim& s, Clock::time_point now) {
+bool advance(DeviceState& st, Mcx514Sim& s, Clock::time_point now, const AxisInputs in[4]) {
   const Value scale = st.get("mcx514.time_scale", Value(1.0));
   if (!s.clock_started) {
     s.clock_started = true;
@@ -138,8 +138,6 @@ bool advance(DeviceState& st, Mcx514Sim& s, Clock::time_point now) {
   }
   s.t += std::chrono::duration<double>(now - s.last).count() * std::max(0.0, scale.asFloat());
   s.last = now;
-  AxisInputs in[4];
-  readInputs(st, in);
   int ended = 0;
   for (auto& [port, chip] : s.ports) {
     chip.advance(s.t, in);
@@ -165,7 +163,9 @@ void ensureTicker(SimDevice& dev, Mcx514Sim& s, Clock::time_point now) {
     auto sim = st.slot<Mcx514Sim>();
     const auto now = Clock::now();
     sim->last_tick = now;
-    const bool ended = advance(st, *sim, now);
+    AxisInputs in[4];
+    readInputs(st, in);
+    const bool ended = advance(st, *sim, now, in);
     record(st, *sim);
     if (!anyMoving(*sim)) {
       publish(st, *sim);
@@ -195,9 +195,9 @@ void motion(Context& ctx, const Request& req) {
   DeviceState& st = ctx.state();
   auto sim = st.slot<Mcx514Sim>();
   Chip& chip = sim->ports[port];
-  const bool ended = advance(st, *sim, now);
   AxisInputs in[4];
   readInputs(st, in);
+  const bool ended = advance(st, *sim, now, in);
   if (isRead(code)) {
     const uint32_t v = chip.read(code, axis_byte, in);
     for (int s = 24; s >= 0; s -= 8) out.push_back(static_cast<uint8_t>(v >> s));
