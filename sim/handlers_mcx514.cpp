@@ -38,6 +38,8 @@
 //                             samples; brought up to date at each start and
 //                             end of a drive and every 0.1 s of moving.  The
 //                             host sets it to [] to start a new recording.
+// A drive command after DHOLD (77) waits, shown as driving in RR0, until
+// DFREE (78) names its axis.
 // Not simulated: software limits, alarm and in-position inputs, the
 // synchronous actions other than capture (SYNC3) and the reversal at the end
 // of a drive (SYNC1), the break point pulse train, pattern interpolation,
