@@ -138,7 +138,9 @@ bool advance(DeviceState& st, Mcx514Sim& s, Clock::time_point now, const AxisInp
     s.clock_started = true;
     s.last = now;
   }
-  s.t += std::chrono::duration<double>(now - s.last).count() * std::max(0.0, scale.asFloat());
+  const double k = scale.asFloat();
+  const double factor = k > 1e6 ? 1e6 : k >= 0 ? k : 0;  // NaN and negatives: time stands
+  s.t += std::chrono::duration<double>(now - s.last).count() * factor;
   s.last = now;
   int ended = 0;
   for (auto& [port, chip] : s.ports) {
