@@ -4,6 +4,10 @@ packet, the checks, firmware statuses, the ini file and a simulated move."""
 
 import asyncio
 import configparser
+import csv
+import importlib.util
+import math
+import pathlib
 import re
 
 import pytest
@@ -467,16 +471,144 @@ def test_trellis_ports_are_slots(trellis):
                          [0, 0x09, 1, 0, 0, 0, 5]]
 
 
-def test_simulated_move_runs_to_its_target(axis):
+def done(dev, *axes):
+    """Polls the move status of the axes, as a user does, until each reports complete."""
+    return wait_until(lambda: all(dev.Motion_getMoveStatus(0, a) == 1 for a in axes))
+
+
+def path_of(s, *axes):
+    """The recorded (t, positions of the axes) samples of port 0."""
+    return [(p[0], [p[2 + a] for a in axes]) for p in s.state_get("mcx514.path") if p[1] == 0]
+
+
+@pytest.mark.parametrize("accel_mode", [0, 1])   # trapezoid, S curve
+def test_simulated_move_ramps_to_its_target(axis, accel_mode):
     dev, s = axis
     assert dev.Motion_open(0) == 0
-    assert dev.Motion_cfgAxisMove(0, 0, 1, 400, 20000) == 0
+    dev.Motion_cfgJerkAndAccelMode(0, 0, 400_000_000, accel_mode)
+    dev.Motion_cfgAxisMove(0, 0, 1, 4000, 100_000, 4_000_000, 2_000_000)  # SV from 100000: 347
+    s.state_set("mcx514.path", [])
     assert dev.Motion_startSingleAxisMove(0, 0) == 0
-    assert wait_until(lambda: dev.Motion_getMoveStatus(0, 0) == 1)
-    assert dev.Motion_getLogicalPosi(0, 0) == 400 and dev.Motion_getEncoderPosi(0, 0) == 400
+    assert done(dev, 0)
+    assert dev.Motion_getLogicalPosi(0, 0) == 4000 and dev.Motion_getEncoderPosi(0, 0) == 4000
+    samples = path_of(s, 0)
+    speeds = [(b[1][0] - a[1][0]) / (b[0] - a[0])
+              for a, b in zip(samples, samples[1:]) if b[0] - a[0] >= 0.0005]
+    assert samples[-1][1] == [4000] and all(v >= 0 for v in speeds)
+    assert speeds[0] < 0.5 * max(speeds) and max(speeds) <= 100_000 * 1.05  # a ramp up to DV
+    assert speeds[-1] < max(speeds)                                           # and down
     dev.Motion_startSingleAxisMove(0, 0)        # relative again
-    assert wait_until(lambda: dev.Motion_getMoveStatus(0, 0) == 1)
-    assert dev.Motion_getLogicalPosi(0, 0) == 800
+    assert done(dev, 0) and dev.Motion_getLogicalPosi(0, 0) == 8000
+
+
+def test_continuous_move_reverses_then_stops(axis):
+    dev, s = axis
+    dev.Motion_cfgAxisMove(0, 2, 2, 0, 50_000)
+    dev.Motion_startSingleAxisMove(0, 2)
+    assert wait_until(lambda: dev.Motion_getLogicalPosi(0, 2) > 100)
+    assert dev.Motion_getMoveStatus(0, 2) == 0 and dev._Motion_getCurrentDriveSpeed(0, 2) > 0
+    dev.Motion_overrideAxisVelocity(0, 2, -50_000)   # slows down, then SYNC1 drives back
+    assert wait_until(lambda: dev.Motion_getLogicalPosi(0, 2) < -100)
+    dev.Motion_stop(0, 2, 0)                          # decelerating, and no second reversal
+    assert done(dev, 2) and dev._Motion_getCurrentDriveSpeed(0, 2) == 0
+    stopped = dev.Motion_getLogicalPosi(0, 2)
+    assert stopped < -100 and dev.Motion_getLogicalPosi(0, 2) == stopped
+
+
+def test_limit_input_stops_a_move(axis):
+    dev, s = axis
+    dev.Motion_cfgLimit(0, 0, 1, 1, 1)          # both enabled, active high
+    s.state_set("mcx514.limit_fwd_at.0", 3000)
+    dev.Motion_cfgAxisMove(0, 0, 0, 10_000, 200_000, 10_000_000, 10_000_000)
+    dev.Motion_startSingleAxisMove(0, 0)
+    assert done(dev, 0)
+    assert dev.Motion_getLogicalPosi(0, 0) == 3000          # instant stop at the switch
+    assert dev.Motion_getLimitStatus(0, 0) == [1, 0]
+    assert dev._Motion_writeRR2(0, 0) == 0b0100             # forward limit error
+    dev.Motion_startSingleAxisMove(0, 0)                    # toward it again: no move
+    assert dev.Motion_getMoveStatus(0, 0) == 1 and dev.Motion_getLogicalPosi(0, 0) == 3000
+    s.state_set("mcx514.limit_rev.0", 1)                    # a held input refuses the way back
+    dev.Motion_cfgAxisMove(0, 0, 0, -500)
+    dev.Motion_startSingleAxisMove(0, 0)
+    assert done(dev, 0) and dev.Motion_getLogicalPosi(0, 0) == 3000
+    assert dev.Motion_getLimitStatus(0, 0) == [1, 1]
+
+
+def test_home_search_ends_at_the_home_input(axis):
+    dev, s = axis
+    s.state_set("mcx514.home_at.1", 5000)       # the switch spans 4900..5100
+    # home search forward, back off and approach again slowly, reset, offset 100
+    assert dev.Motion_cfgFindRef(0, 1, 0, 0, 200_000, 20_000_000, 50, 1, 100) == 0
+    assert dev.Motion_findRef(0, 1) == 0
+    assert wait_until(lambda: dev.Motion_checkRef(0, 1) == 1)
+    # found at 4900, counters cleared there, then the offset away from the switch
+    assert dev.Motion_getLogicalPosi(0, 1) == -100 and dev.Motion_getEncoderPosi(0, 1) == -100
+
+
+def test_capture_keeps_the_position_of_the_input_edge(axis):
+    dev, s = axis
+    s.state_set("mcx514.sync_at.3", 2500)
+    dev.Motion_cfgCapture(0, 3, 0, 0)           # rising edge, logical position
+    dev.Motion_enableCapture(0, 3, 1)
+    dev.Motion_cfgAxisMove(0, 3, 0, 6000, 300_000, 10_000_000, 10_000_000)
+    dev.Motion_startSingleAxisMove(0, 3)
+    assert done(dev, 3)
+    assert dev.Motion_readCapturePoint(0, 3) == 2500
+
+
+def off_line(p, end):
+    return abs(p[0] * end[1] - p[1] * end[0]) / math.hypot(*end)
+
+
+@pytest.mark.parametrize("move", ["line", "arc"])
+def test_interpolated_path_stays_within_one_pulse(axis, move):
+    dev, s = axis
+    dev.Motion_rstEncoderPosi(0, 1, 1000)
+    dev.Motion_rstEncoderPosi(0, 3, -2000)
+    s.state_set("mcx514.path", [])
+    if move == "line":
+        dev.Motion_cfg2AxisLinearInterpo(0, 3, 3000, 1, -4000, 100_000, 2_000_000, 2_000_000)
+        dev.Motion_startLinearInterpo(0)
+        end = (-4000, 3000)                     # axis 1, axis 3
+        miss = lambda p: off_line(p, end)       # noqa: E731
+    else:
+        # x is axis 3, y axis 1: centre (-1500, 0) from the start, half a turn clockwise
+        dev.Motion_cfgCircularInterpo(0, 3, 1, -1500, 0, -3000, 0, 0, 100_000)
+        dev.Motion_startCircularInterpo(0)
+        end = (0, -3000)
+        miss = lambda p: abs(math.hypot(p[1] + 1500, p[0]) - 1500)   # noqa: E731
+    assert done(dev, 1, 3)
+    rel = [(p[0] - 1000, p[1] + 2000) for _, p in path_of(s, 1, 3)]
+    assert rel[0] == (0, 0) and rel[-1] == end and len(rel) > 10
+    assert max(miss(p) for p in rel) <= 1
+    if move == "arc":                           # clockwise from the right: y goes down
+        assert min(p[0] for p in rel) < -1400
+
+
+def test_helix_calculates_then_turns_and_climbs(axis):
+    dev, s = axis
+    # two whole turns of radius 1000, axis 2 climbs 300 a turn
+    assert dev.Motion_cfgHelicalInterpo(0, 1000, 0, 0, 0, 1, 300, 0, 0, 2, 200_000, 1, 1000) == 0
+    assert dev.helical_interpo.calculation_result == round(2 * 2 * math.pi * 1000)
+    assert dev.Motion_startHelicalInterpo(0) == 0
+    assert done(dev, 0, 1, 2)
+    assert [dev.Motion_getLogicalPosi(0, a) for a in (0, 1, 2)] == [0, 0, 600]
+
+
+def test_motion_path_example_writes_its_csv(tmp_path):
+    example = pathlib.Path(__file__).resolve().parents[2] / "examples" / "motion_path.py"
+    spec = importlib.util.spec_from_file_location("motion_path", example)
+    module = importlib.util.module_from_spec(spec)
+    spec.loader.exec_module(module)
+    written = module.main(str(tmp_path))
+    assert written[0] == str(tmp_path / "motion_path.csv")
+    with open(written[0]) as f:
+        rows = list(csv.reader(f))
+    assert rows[0] == ["t", "port", "axis0", "axis1", "axis2", "axis3"]
+    points = {(int(r[2]), int(r[3])) for r in rows[1:]}
+    assert (0, 0) in points and (4000, 3000) in points                  # the line's ends
+    assert any(x < 100 and y > 2900 for x, y in points)                 # the circle's far side
+    assert all(p.parent == tmp_path for p in map(pathlib.Path, written))
 
 
 # ---- the ini file --------------------------------------------------------------------
