@@ -129,11 +129,10 @@ void decodeAndRead(size_t samples) {
       }
     }
     const double rwall = since(t0), rcpu = cpuSeconds(CLOCK_THREAD_CPUTIME_ID) - cpu0;
-    std::printf(
-        "read     %-29s %.1f ns/value wall, %.1f ns/value CPU, %.1f M values/s%s\n",
-        lists ? "AI_readStreaming (vectors):" : "AI_readStreamingInto (rows):",
-        rwall * 1e9 / values, rcpu * 1e9 / values, values / rwall / 1e6,
-        got == samples && ok ? "" : "  (WRONG: samples missing or misplaced)");
+    std::printf("read     %-29s %.1f ns/value wall, %.1f ns/value CPU, %.1f M values/s%s\n",
+                lists ? "AI_readStreaming (vectors):" : "AI_readStreamingInto (rows):",
+                rwall * 1e9 / values, rcpu * 1e9 / values, values / rwall / 1e6,
+                got == samples && ok ? "" : "  (WRONG: samples missing or misplaced)");
   }
   dev.close(false);
 }

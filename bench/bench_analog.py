@@ -21,6 +21,8 @@ numpy is needed (the array reads, and the checks).  Everything goes to 127.0.0.1
 """
 
 import argparse
+import contextlib
+import io
 import multiprocessing as mp
 import os
 import resource
@@ -37,7 +39,8 @@ PER_READ = 2000  # samples asked per read in the sustained run (0.1 s at 20 kHz)
 
 def connect(dev, s):
     if s.link == sim.Link.Usb:
-        dev.connect(s.serial, verbose=False)
+        with contextlib.redirect_stdout(io.StringIO()):  # the libusb warning's call stack
+            dev.connect(s.serial, verbose=False)
     elif s.link == sim.Link.Wifi:
         dev.connect(s.host, port1=s.data_port, port2=s.cmd_port, verbose=False)
         s.wait_for_host(sim.Channel.Data, 5.0)
@@ -52,6 +55,7 @@ def process_cpu():
 
 def ramp_errors(values, first, ratio):
     """Values of samples first, first+1, ... that are not the ramp's."""
+    values = np.asarray(values, dtype=float)
     k = np.arange(first, first + len(values), dtype=np.int64)[:, None]
     c = np.arange(values.shape[1], dtype=np.int64)[None, :]
     expect = (1000 * c + k + 32768) % 65536 - 32768
@@ -66,8 +70,9 @@ class Reader:
         self.out = np.empty((rows, dev.ai_num_channels))
 
     def __call__(self, n, delay):
+        """The samples: a list of lists from the list read, else an array."""
         if self.api == "list":
-            return np.asarray(self.dev.AI_readStreaming(0, n, delay), dtype=float).reshape(-1, self.out.shape[1])
+            return self.dev.AI_readStreaming(0, n, delay)
         if self.api == "array":
             return self.dev.AI_readStreamingArray(0, n, delay)
         got = self.dev.AI_readStreamingInto(0, self.out[:n], delay)
@@ -103,7 +108,8 @@ def throughput(model, api, samples):
                   f"{values / dt / 1e6:5.2f} M values/s, {cpu / values * 1e6:.2f} CPU s per M values"
                   f"{'' if got == samples and not bad else f'  (WRONG: {samples - got} missing, {bad} bad)'}")
         finally:
-            dev.close(verbose=False)
+            with contextlib.redirect_stdout(io.StringIO()):
+                dev.close(verbose=False)
 
 
 # ---- sustained --------------------------------------------------------------------------
@@ -187,8 +193,9 @@ def sustained(devices, rate, duration, apis, pin):
         sent = [dev._AI_readBufferStatus(0)[0] for dev in devs]
         total_dropped = [dev.ai_dropped_samples for dev in devs]
     finally:
-        for dev in devs:
-            dev.close(verbose=False)
+        with contextlib.redirect_stdout(io.StringIO()):
+            for dev in devs:
+                dev.close(verbose=False)
         here.send("done")
         sim_cpu = here.recv()
         child.join()

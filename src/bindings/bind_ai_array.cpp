@@ -124,7 +124,8 @@ void bindAIArrays(py::class_<AIModule, std::shared_ptr<AIModule>>& cls) {
         A& self = self_obj.cast<A&>();
         return makeCoroutine(self_obj, [&self, port, num_samples, delay](CancelToken* tok) {
           Call c(self.device(), Call::Flavour::Awaitable, PACKET_TIMEOUT, tok);
-          auto b = std::make_shared<AiBlock>(self.AI_readStreamingBlock(c, port, num_samples, delay));
+          auto b =
+              std::make_shared<AiBlock>(self.AI_readStreamingBlock(c, port, num_samples, delay));
           return std::function<py::object()>([b] { return toArray(std::move(*b)); });
         });
       },
@@ -179,11 +180,13 @@ void bindAIArrays(py::class_<AIModule, std::shared_ptr<AIModule>>& cls) {
                    "port's previous stream read and its latest one (any of the read methods); "
                    "nothing is sent.",
                    {kPort},
-                   {kInt, "0 when none were lost or before the first read; on Trellis the most "
-                          "that any enabled chip select lost"},
+                   {kInt,
+                    "0 when none were lost or before the first read; on Trellis the most "
+                    "that any enabled chip select lost"},
                    kPortRefused};
-  cls.def(dropped.name, [](A& self, const Value& port) { return self.AI_getReadDropped(port); },
-          py::arg("port"), py::doc(blockingDoc(dropped, false).c_str()));
+  cls.def(
+      dropped.name, [](A& self, const Value& port) { return self.AI_getReadDropped(port); },
+      py::arg("port"), py::doc(blockingDoc(dropped, false).c_str()));
   cls.def(
       asyncName(dropped).c_str(),
       [](A& self, const Value& port) {
@@ -193,7 +196,9 @@ void bindAIArrays(py::class_<AIModule, std::shared_ptr<AIModule>>& cls) {
       py::arg("port"), py::doc(awaitableDoc(dropped).c_str()));
   cls.def(
       "_AI_sampleWidth", [](A& self, const Value& port) { return self.AI_sampleWidth(port); },
-      py::arg("port"), "Values per sample of the port now: the column count of an array read.");
+      py::arg("port"),
+      "_AI_sampleWidth(self, port: int) -> int\n\nValues per sample of the port now: the column "
+      "count of an array read.");
 }
 
 }  // namespace orv::py_bind
