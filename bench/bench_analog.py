@@ -12,7 +12,8 @@ sustained    DEVICES simulated KestrelAin (8 channels) streaming continuously at
              compared with what the device sent, and every read's dropped count
              is summed.  Reports the driver's CPU per device (its receive and
              decoder threads) and the readers' CPU inside their read calls,
-             where they wait for samples.
+             where they wait for samples; and, before the streams start, the
+             CPU of a read that waits 1 s for samples that do not come.
 
     PYTHONPATH=build/dev/stage python3 bench/bench_analog.py [--duration 60] [--samples N]
                                                                 [--only throughput|sustained]
@@ -175,6 +176,14 @@ def sustained(devices, rate, duration, apis, pin):
             threads.append(th)
             stats.append(st)
             th.start()
+        # A read that waits with nothing coming: its CPU is that of the wait alone.
+        idle = []
+        for api in ("list", "into", "array"):
+            c0, t0 = time.thread_time(), time.perf_counter()
+            n = len(Reader(devs[0], api, 10)(10, 1.0))
+            idle.append(f"{api} {(time.thread_time() - c0) * 1e3:.2f} ms CPU in "
+                        f"{time.perf_counter() - t0:.2f} s ({n} samples)")
+        print("  a read waiting 1 s for samples that do not come: " + ", ".join(idle))
         main_tid = threading.get_native_id()
         cpu0, t0 = process_cpu(), time.perf_counter()
         main0 = thread_cpu(main_tid)
