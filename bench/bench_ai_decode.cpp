@@ -2,7 +2,7 @@
 //
 //   scaling   one raw count to volts: the decoder's exact rounding
 //             (round(count * ratio, 4) as the host rounds) against the naive
-//             nearbyint(x * 1e4) / 1e4, which differs from it on some values
+//             nearbyint(x * 1e4) / 1e4, and on how many counts the two differ
 //   decoder   raw stream records (64 samples x 8 channels) put on a KestrelAin
 //             object's raw queue, decoded by ai_stream_thread onto the decoded
 //             queue: wall time until the last sample is there, and the CPU
