@@ -17,11 +17,16 @@
 //                     ["const", volts]
 //                     ["sine", amplitude, frequency, offset]   volts, Hz
 //                     ["noise", amplitude, seed]   uniform in +-amplitude
-//                     ["ao", channel]         what AO port 0's channel writes
-//                                             ("ao.values.0", see handlers_ao)
+//                     ["ao", channel, port]   what the channel of the same
+//                                             device's AO port (default 0)
+//                                             outputs at the sample's instant:
+//                                             a value written on demand or a
+//                                             running waveform (sim/ao_output.hpp)
 //                   k is the sample's index since the stream started and
-//                   t = k / rate.  Default: ["ramp", 1000*channel, 1].
-//                   On-demand reads take k = 0, 1, 2... per port.
+//                   t = k / rate; the sample's instant is the stream's start
+//                   plus t.  Default: ["ramp", 1000*channel, 1].
+//                   On-demand reads take k = 0, 1, 2... per port, and now as
+//                   their instant.
 //   "ai.flat_out"   true: records of 64 samples back to back, as fast as
 //                   the link takes them (benchmarks), rate ignored
 //   "ai.record_samples"  int: samples per record instead of 64
@@ -43,6 +48,7 @@
 #include "analog/ai.hpp"
 #include "link/constants.hpp"
 #include "models/model_info.hpp"
+#include "sim/ao_output.hpp"
 #include "sim/device.hpp"
 #include "sim/handler.hpp"
 
@@ -112,7 +118,8 @@ class Wave {
     if (kind_ == "noise") rng_.seed(static_cast<uint32_t>(b_));
   }
 
-  int16_t count(SimDevice& dev, uint64_t k, double rate) {
+  // `at`: the sample's instant (waveforms of other outputs).
+  int16_t count(SimDevice& dev, uint64_t k, double rate, SteadyClock::time_point at) {
     const double t = rate > 0 ? static_cast<double>(k) / rate : 0;
     if (kind_ == "ramp")
       return static_cast<int16_t>(
@@ -124,13 +131,8 @@ class Wave {
       std::uniform_real_distribution<double> u(-a_, a_);
       return clampCount(u(rng_) / ratio_);
     }
-    if (kind_ == "ao") {
-      const Value v = dev.state().get("ao.values.0");
-      const auto ch = static_cast<size_t>(a_);
-      if (v.isSequence() && ch < v.size() && v.asList()[ch].isNumber())
-        return clampCount(v.asList()[ch].asFloat() / ratio_);
-      return 0;
-    }
+    if (kind_ == "ao")
+      return clampCount(aoOutput(dev, static_cast<int>(b_), static_cast<int>(a_), at) / ratio_);
     return 0;
   }
 
@@ -153,9 +155,10 @@ std::vector<Wave> wavesOf(SimDevice& dev, int channels) {
   return waves;
 }
 
-void putSample(SimDevice& dev, std::vector<Wave>& waves, uint64_t k, double rate, Bytes& out) {
+void putSample(SimDevice& dev, std::vector<Wave>& waves, uint64_t k, double rate,
+               SteadyClock::time_point at, Bytes& out) {
   for (Wave& w : waves) {
-    const auto c = static_cast<uint16_t>(w.count(dev, k, rate));
+    const auto c = static_cast<uint16_t>(w.count(dev, k, rate, at));
     out.push_back(static_cast<uint8_t>(c >> 8));
     out.push_back(static_cast<uint8_t>(c & 0xFF));
   }
@@ -214,6 +217,11 @@ struct Stream {
   std::vector<std::vector<Wave>> waves;  // per chip
   SteadyClock::time_point t0;
   uint64_t sent = 0;
+  SteadyClock::time_point instant(uint64_t k) const {
+    if (!(rate > 0)) return t0;
+    return t0 + std::chrono::duration_cast<SteadyClock::duration>(
+                    std::chrono::duration<double>(static_cast<double>(k) / rate));
+  }
 };
 
 void startStream(Context& ctx, const Request& req) {
@@ -255,7 +263,7 @@ void startStream(Context& ctx, const Request& req) {
       for (size_t i = 0; i < st->chips.size(); ++i) {
         Bytes rec{static_cast<uint8_t>(st->port), static_cast<uint8_t>(st->chips[i])};
         for (uint64_t k = st->sent; k < st->sent + n; ++k)
-          putSample(dev, st->waves[i], k, st->rate, rec);
+          putSample(dev, st->waves[i], k, st->rate, st->instant(k), rec);
         if (!dev.writeStream(st->cmd, rec)) return false;
       }
       st->sent += n;
@@ -303,7 +311,7 @@ void readOnDemand(Context& ctx, const Request& req) {
   }
   auto waves = wavesOf(dev, channels);
   Bytes out{static_cast<uint8_t>(port), 0};
-  putSample(dev, waves, k, rate, out);
+  putSample(dev, waves, k, rate, SteadyClock::now(), out);
   ctx.reply(out);
 }
 

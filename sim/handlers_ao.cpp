@@ -7,11 +7,14 @@
 // two counters (writes and pushes).  In mode 1 a running port falls back to
 // stand-by once num_samples / rate seconds have passed; GET_AO_VALUES of a
 // running port gives each enabled channel's form at that moment (the buffer's
-// values, in turn at the rate, when a buffer was pushed).
+// values, in turn at the rate, when a buffer was pushed).  aoOutput
+// (sim/ao_output.hpp) gives the same at any instant to the analog inputs
+// that read an output back.
 //
-// Key/value state written for other handlers and for tests:
+// Key/value state written for tests:
 //   "ao.values.<port>"   list of 8 floats: what the port's channels output on
-//                        demand (the AI waveform ["ao", channel] reads port 0)
+//                        demand
+#include <algorithm>
 #include <bit>
 #include <chrono>
 #include <cmath>
@@ -20,6 +23,7 @@
 
 #include "analog/ao.hpp"
 #include "link/constants.hpp"
+#include "sim/ao_output.hpp"
 #include "sim/device.hpp"
 #include "sim/handler.hpp"
 
@@ -88,6 +92,21 @@ double formValue(const AoChannel& c, double t) {
   }
 }
 
+// Channel i of the port at `at`: the form (or the buffer) of an enabled
+// channel while the port runs, the value written on demand otherwise.
+double outputAt(const AoPort& p, int i, SteadyClock::time_point at) {
+  if (i < 0 || i > 7) return 0;
+  const double on_demand = p.values[i];
+  if (p.state != 2 || !((p.enabled >> i) & 1)) return on_demand;
+  const double t = std::max(0.0, std::chrono::duration<double>(at - p.started).count());
+  if (p.mode == 1 && p.rate > 0 && t * p.rate >= p.num_samples) return on_demand;
+  if (!p.buffer.empty()) {
+    const auto k = static_cast<size_t>(t * p.rate);
+    return p.buffer[(k * 8 + static_cast<size_t>(i)) % p.buffer.size()];
+  }
+  return formValue(p.ch[i], t);
+}
+
 // fn(port state) under the state lock; replies [port, status] unless fn
 // replied itself.
 template <typename Fn>
@@ -105,19 +124,8 @@ void onPort(Context& ctx, const Request& req, size_t need, Fn fn) {
 void getValues(Context& ctx, const Request& req) {
   onPort(ctx, req, 1, [&](AoPort& p) {
     Bytes out{req.data[0], 0};
-    const double t = std::chrono::duration<double>(SteadyClock::now() - p.started).count();
-    for (int i = 0; i < 8; ++i) {
-      double v = p.values[i];
-      if (p.state == 2 && ((p.enabled >> i) & 1)) {
-        if (!p.buffer.empty()) {
-          const auto k = static_cast<size_t>(t * p.rate);
-          v = p.buffer[(k * 8 + static_cast<size_t>(i)) % p.buffer.size()];
-        } else {
-          v = formValue(p.ch[i], t);
-        }
-      }
-      putF32(out, static_cast<float>(v));
-    }
+    const auto now = SteadyClock::now();
+    for (int i = 0; i < 8; ++i) putF32(out, static_cast<float>(outputAt(p, i, now)));
     ctx.reply(out);
   });
 }
@@ -245,5 +253,11 @@ const Registrar reg{{
 }};
 
 }  // namespace
+
+double aoOutput(SimDevice& dev, int port, int channel, SteadyClock::time_point at) {
+  auto ao = dev.state().slot<AoSim>();
+  auto it = ao->ports.find(port);
+  return it == ao->ports.end() ? 0 : outputAt(it->second, channel, at);
+}
 
 }  // namespace orv::sim

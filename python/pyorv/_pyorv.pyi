@@ -3,6 +3,8 @@ ORV Python driver: the compiled core
 """
 from __future__ import annotations
 import collections.abc
+import numpy
+import numpy.typing
 import typing
 from . import _sim
 __all__: list[str] = ['AHRSModeNotAvaliableError', 'AHRSModule', 'AHRSPortNotAvaliableError', 'AHRSQueueOverflowWarning', 'AHRS_START', 'AI24BitModule', 'AICSNotAvaliableError', 'AIChannelNotAvaliableError', 'AIModeNotAvaliableError', 'AIModule', 'AIPortNotAvaliableError', 'AIQueueOverflowWarning', 'AIRateNotVaildError', 'AOChannelNotAvaliableError', 'AOFormNotAvaliableError', 'AOModeNotVaildError', 'AOModule', 'AOPortNotAvaliableError', 'AORateNotVaildError', 'AOSpanNotVaildError', 'APINotSupportError', 'BROADCAST_CMD_LIST', 'BroadcastDevice', 'BroadcastModule', 'CANDataLengthNotVaildError', 'CANFrame', 'CANModule', 'CANPortNotAvaliableError', 'CANQueueOverflowWarning', 'CANSpeedNotVaildError', 'CANTXNotVaildError', 'CANTXPriorityNotVaildError', 'CHECK_CALCULATUON', 'CHECK_MAC_AND_REBOOT', 'CHECK_MAC_AND_SET_IP', 'CMD_CR', 'CMD_CR_2', 'CMD_INDEX', 'CMD_INDEX_2', 'CMD_LF', 'CMD_LF_2', 'CMD_STX', 'CMD_STX_2', 'CONNECTION_TIMEOUT', 'Client', 'CounterChannelNotAvaliableError', 'CounterModule', 'DIOModule', 'DIPortNotAvaliableError', 'DOPortNotAvaliableError', 'DPOTChannelNotAvaliableError', 'DPOTModule', 'DPOTPortNotAvaliableError', 'DataLogger', 'Device', 'DeviceClosedError', 'DeviceFinder', 'ECHO_DELAY', 'ETHDevice', 'Error', 'ExtLibNotFoundWarning', 'FirmwareAIError', 'FirmwareAOError', 'FirmwareBootloaderError', 'FirmwareCANError', 'FirmwareCoreError', 'FirmwareDIOError', 'FirmwareDriveError', 'FirmwareEEPROMError', 'FirmwareEnableError', 'FirmwareEncoderError', 'FirmwareHALIndexError', 'FirmwareI2CError', 'FirmwareMotionError', 'FirmwareOLEDError', 'FirmwareORVIndexError', 'FirmwareOtherError', 'FirmwarePWMError', 'FirmwareParserError', 'FirmwarePinIndexError', 'FirmwarePulseError', 'FirmwareRTCError', 'FirmwareRelayError', 'FirmwareSPIError', 'FirmwareTCPError', 'FirmwareTIMError', 'FirmwareThermalError', 'FirmwareUARTError', 'FirmwareUDPError', 'FirmwareUSBError', 'GET_DEVICE_INFO', 'GET_DRIVER_INFO', 'HANDLE_DICT', 'HANDLE_LIST', 'HeronAin', 'HeronAinImu', 'HeronAinPlus', 'I2CAddressSizeNotVaildError', 'I2CClockNotSupportError', 'I2CModule', 'I2CPortNotAvaliableError', 'IniFileExtensionNameError', 'IniFileNotFoundError', 'InputDataNotInRangeError', 'InputTypeNotConsistentError', 'InputTypeNotCorrectError', 'KestrelAin', 'KestrelAout', 'KestrelCin', 'KestrelCvin', 'KestrelDio', 'KestrelDioX', 'KestrelRelay', 'KestrelRes', 'KestrelTherm', 'LABEL_DICT', 'LinkNotOpenError', 'MCX514Driver', 'MCX514Module', 'MOTION', 'MOTION_00_JK', 'MOTION_01_DJ', 'MOTION_02_AC', 'MOTION_03_DC', 'MOTION_04_SV', 'MOTION_05_DV', 'MOTION_06_TP', 'MOTION_07_DP', 'MOTION_08_CP', 'MOTION_09_LP', 'MOTION_0A_RP', 'MOTION_0B_SP', 'MOTION_0C_SM', 'MOTION_0D_AO', 'MOTION_0E_LX', 'MOTION_0F_RX', 'MOTION_10_MR0', 'MOTION_11_MR1', 'MOTION_12_MR2', 'MOTION_13_MR3', 'MOTION_14_HV', 'MOTION_15_IV', 'MOTION_16_TM', 'MOTION_17_SP1', 'MOTION_18_SP2', 'MOTION_19_TX', 'MOTION_1A_HLN', 'MOTION_1B_HLV', 'MOTION_1C_GPIO', 'MOTION_1F_NOP', 'MOTION_20_MRM', 'MOTION_21_P1M', 'MOTION_22_P2M', 'MOTION_23_H1M', 'MOTION_24_H2M', 'MOTION_25_FLM', 'MOTION_26_S0M', 'MOTION_27_S1M', 'MOTION_28_S2M', 'MOTION_29_S3M', 'MOTION_2A_IPM', 'MOTION_30_LP', 'MOTION_31_RP', 'MOTION_32_CV', 'MOTION_33_CA', 'MOTION_34_MR0', 'MOTION_35_MR1', 'MOTION_36_MR2', 'MOTION_37_MR3', 'MOTION_38_CT', 'MOTION_39_TX', 'MOTION_3A_CHLN', 'MOTION_3B_HLV', 'MOTION_3D_WR1', 'MOTION_3E_WR2', 'MOTION_3F_WR3', 'MOTION_40_MRM', 'MOTION_41_P1M', 'MOTION_42_P2M', 'MOTION_43_AC', 'MOTION_44_SV', 'MOTION_45_DV', 'MOTION_46_TP', 'MOTION_47_SP1', 'MOTION_48_UI', 'MOTION_50_DRVRL', 'MOTION_51_DRVNR', 'MOTION_52_DRVVP', 'MOTION_53_DRVVM', 'MOTION_54_DRVAB', 'MOTION_56_DRVSBRK', 'MOTION_57_DRVFBRK', 'MOTION_58_DIRCP', 'MOTION_59_DIRCM', 'MOTION_5A_HMSRC', 'MOTION_60_LHK1', 'MOTION_61_LHK2', 'MOTION_62_LHK3', 'MOTION_63_LHK4', 'MOTION_64_CHKCW', 'MOTION_65_CHKCCW', 'MOTION_66_BHK2', 'MOTION_67_BHK3', 'MOTION_68_BHK4', 'MOTION_69_HLCW', 'MOTION_6A_HLCCW', 'MOTION_6B_HLPCW', 'MOTION_6C_HLPCCW', 'MOTION_6D_DECEN', 'MOTION_6E_DECDIS', 'MOTION_6F_CLRSTEP', 'MOTION_70_VINC', 'MOTION_71_VDEC', 'MOTION_72_DCC', 'MOTION_73_TMSTA', 'MOTION_74_TMSTP', 'MOTION_75_SPSTA', 'MOTION_76_SPSTP', 'MOTION_77_DHOLD', 'MOTION_78_DFREE', 'MOTION_79_R2CLR', 'MOTION_7A_RR3P0', 'MOTION_7B_RR3P1', 'MOTION_7C_MFPC', 'MOTION_81_SYNC0EN', 'MOTION_82_SYNC1EN', 'MOTION_83_SYNC01EN', 'MOTION_84_SYNC2EN', 'MOTION_85_SYNC02EN', 'MOTION_86_SYNC12EN', 'MOTION_87_SYNC012EN', 'MOTION_88_SYNC3EN', 'MOTION_89_SYNC03EN', 'MOTION_8A_SYNC13EN', 'MOTION_8B_SYNC013EN', 'MOTION_8C_SYNC23EN', 'MOTION_8D_SYNC023EN', 'MOTION_8E_SYNC123EN', 'MOTION_8F_SYNC0123EN', 'MOTION_91_SYNC0DIS', 'MOTION_92_SYNC1DIS', 'MOTION_93_SYNC01DIS', 'MOTION_94_SYNC2DIS', 'MOTION_95_SYNC02DIS', 'MOTION_96_SYNC12DIS', 'MOTION_97_SYNC012DIS', 'MOTION_98_SYNC3DIS', 'MOTION_99_SYNC03DIS', 'MOTION_9A_SYNC13DIS', 'MOTION_9B_SYNC013DIS', 'MOTION_9C_SYNC23DIS', 'MOTION_9D_SYNC023DIS', 'MOTION_9E_SYNC123DIS', 'MOTION_9F_SYNC0123DIS', 'MOTION_A1_SYNC0ACT', 'MOTION_A2_SYNC1ACT', 'MOTION_A3_SYNC01ACT', 'MOTION_A4_SYNC2ACT', 'MOTION_A5_SYNC02ACT', 'MOTION_A6_SYNC12ACT', 'MOTION_A7_SYNC012ACT', 'MOTION_A8_SYNC3ACT', 'MOTION_A9_SYNC03ACT', 'MOTION_AA_SYNC13ACT', 'MOTION_AB_SYNC013ACT', 'MOTION_AC_SYNC23ACT', 'MOTION_AD_SYNC023ACT', 'MOTION_AE_SYNC123ACT', 'MOTION_AF_SYNC0123ACT', 'MOTION_C0_SP0L', 'MOTION_C1_SP0E', 'MOTION_C2_SP1L', 'MOTION_C3_SP1E', 'MOTION_C4_SP2L', 'MOTION_C5_SP2E', 'MOTION_C6_INPL', 'MOTION_C7_INPE', 'MOTION_C8_ALML', 'MOTION_C9_ALME', 'MOTION_CA_HLML', 'MOTION_CB_HLME', 'MOTION_CC_HLMM', 'MOTION_CD_SLME', 'MOTION_CE_SLMO', 'MOTION_CF_SLMM', 'MOTION_D0_MANLD', 'MOTION_D1_DSNDE', 'MOTION_D2_SACC', 'MOTION_D3_DPMD0', 'MOTION_D4_DPMD1', 'MOTION_D5_DPL', 'MOTION_D6_DIRL', 'MOTION_D7_DPINV', 'MOTION_D8_PIMD0', 'MOTION_D9_PIMD1', 'MOTION_DA_PIL', 'MOTION_DB_PIINV', 'MOTION_DC_LMINV', 'MOTION_DD_AVTRI', 'MOTION_DE_TMMD', 'MOTION_E0_WR0', 'MOTION_E1_WR1', 'MOTION_E2_WR2', 'MOTION_E3_WR3', 'MOTION_E4_WR4', 'MOTION_E5_WR5', 'MOTION_E6_WR6', 'MOTION_E7_WR7', 'MOTION_E8_RR0', 'MOTION_E9_RR1', 'MOTION_EA_RR2', 'MOTION_EB_RR3', 'MOTION_EC_RR4', 'MOTION_ED_RR5', 'MOTION_EE_RR6', 'MOTION_EF_RR7', 'MOTION_FC_I2CCHK', 'MOTION_FD_I2CRST', 'MOTION_FE_HDRST', 'MRDRPortNotAvaliable', 'Measurement', 'MerlinAxis', 'MerlinDrive', 'MotionAccelerationModeError', 'MotionAxis', 'MotionAxisError', 'MotionBreakPointModeError', 'MotionCaptureModeError', 'MotionCaptureTypeError', 'MotionCircularInterpolation', 'MotionDirectionError', 'MotionEnableError', 'MotionHelicalInterpolation', 'MotionInifile', 'MotionLinearInterpolation', 'MotionOperationModeError', 'MotionPolarityError', 'MotionPortNotAvaliable', 'MotionSearchDirectionError', 'MotionSearchTypeError', 'MotionStepperOutputError', 'MotionStopModeError', 'NUM_BCST_RETRIES', 'NUM_RETRIES', 'NetworkClient', 'NetworkConnectionError', 'NetworkConnectionLostError', 'NetworkDevice', 'NetworkModule', 'OPEN_CAN', 'ORVWarning', 'PACKET_TIMEOUT', 'PRODUCT_LIST', 'PWMChannelNotAvaliableError', 'PWMModule', 'PinsNotExistError', 'PinsValueNotDefineError', 'PloverAin', 'PloverAio', 'PloverCan', 'PloverDio', 'PloverRtd', 'PloverSink', 'PloverTc', 'QUEUE_SIZE_MAX', 'QUEUE_TIMEOUT', 'RETRY_TIMEOUT', 'ReceivePacketTimeoutError', 'RelayCounterIndexError', 'RelayModule', 'ReplyFormatError', 'SPIDataLengthExceedMaxError', 'SPIDataSizeNotVaildError', 'SPIFirstBitNotVaildError', 'SPIModeNotVaildError', 'SPIModule', 'SPIPortNotAvaliableError', 'SPIPrescalerNotVaildError', 'START_AI_STREAMING', 'START_AI_STREAMING_VARIABLE', 'START_AO_STREAMING', 'START_CAN', 'START_MOTION_MONITORING', 'START_UART_READING', 'STREAMING_CMD_LIST', 'StreamQueue', 'SystemAnalogModule', 'SystemModule', 'TCPClient', 'TCP_CMD_PORT', 'TCP_DATA_LENGTH_MAX', 'TCP_DATA_PORT', 'TCP_PKT_LENGTH_MAX', 'ThermalChipSelectNotAvaliableError', 'ThermalModeNotVaildError', 'ThermalModule', 'ThermalPortNotAvaliableError', 'ThermalResistanceModule', 'ThermalTypeNotVaildError', 'ThermocoupleModule', 'Trellis', 'TrellisLite', 'TrellisPortNotAvaliableError', 'UARTBaudRateNotSupportError', 'UARTDataBitNotSupportError', 'UARTExceedMaxLengthError', 'UARTModule', 'UARTParityNotSupportError', 'UARTPortNotAvaliableError', 'UARTQueueOverflowWarning', 'UARTStopBitNotSupportError', 'UDPClient', 'UDP_PKT_LENGTH_MAX', 'UDP_RECV_PORT', 'UDP_SEND_PORT', 'USBClient', 'USBConnectionError', 'USBDevice', 'USB_61E_PLUS_PID', 'USB_61E_PLUS_VID', 'USB_61E_RECEIVE_BYTE', 'USB_61E_RECEIVE_TIMEOUT', 'USB_61E_RECEIVE_TOTAL_BYTES', 'USB_EP_IN', 'USB_EP_OUT', 'USB_PID', 'USB_PKT_SIZE', 'USB_VID', 'WifiDevice', 'WifiModule', 'adjustDataList', 'changeToTrellisPort', 'checkEachItemInRange', 'checkFirmwareError', 'checkFuncPinMap', 'checkInputType', 'checkInputTypeConsistent', 'checkPinMap', 'clearBit', 'coerce', 'convert2U8ToI16', 'convert2U8ToU16', 'convert4U8ToF32', 'convert4U8ToI32', 'convert4U8ToU32', 'convert8U8ToF64', 'convert8U8ToI64', 'convert8U8ToU64', 'convertF32To4U8', 'convertF64To8U8', 'convertI16To2U8', 'convertI32To4U8', 'convertI64To8U8', 'convertIPAddrTo4U8', 'convertIndexAndBinaryListsToInt', 'convertIndexListToInt', 'convertIntToBinaryList', 'convertIntToIndexList', 'convertMACAddrTo6U8', 'convertStrToU8List', 'convertU16To2U8', 'convertU32To4U8', 'convertU64To8U8', 'convertU8ListToStr', 'errAHRSMode', 'errAHRSPort', 'errAIChannel', 'errAIChip', 'errAIMode', 'errAIPort', 'errAIRate', 'errAOChannel', 'errAOForm', 'errAOMode', 'errAOPort', 'errAORate', 'errAOSpan', 'errAPINotSupport', 'errCANDataLength', 'errCANPort', 'errCANSpeed', 'errCANTX', 'errCANTXPriority', 'errCounterchannel', 'errDIPort', 'errDOPort', 'errDPOTChannel', 'errDPOTPort', 'errDeviceClosed', 'errFirmwareAI', 'errFirmwareAO', 'errFirmwareBootloader', 'errFirmwareCAN', 'errFirmwareCore', 'errFirmwareDIO', 'errFirmwareDrive', 'errFirmwareEEPROM', 'errFirmwareEnable', 'errFirmwareEncoder', 'errFirmwareHALIndex', 'errFirmwareI2C', 'errFirmwareMotion', 'errFirmwareOLED', 'errFirmwareORVIndex', 'errFirmwareOther', 'errFirmwarePWM', 'errFirmwareParser', 'errFirmwarePinIndex', 'errFirmwarePulse', 'errFirmwareRTC', 'errFirmwareRelay', 'errFirmwareSPI', 'errFirmwareTCP', 'errFirmwareTIM', 'errFirmwareThermal', 'errFirmwareUART', 'errFirmwareUDP', 'errFirmwareUSB', 'errI2CAddressSize', 'errI2CClock', 'errI2CPort', 'errIniFileName', 'errIniFileNotFound', 'errInputDataNotInRange', 'errInputTypeNotConsistent', 'errInputTypeNotCorrect', 'errLinkNotOpen', 'errMotionAccelerationMode', 'errMotionAxis', 'errMotionBreakPoint', 'errMotionCaptureMode', 'errMotionCaptureType', 'errMotionDirection', 'errMotionEnable', 'errMotionOperationMode', 'errMotionPolarity', 'errMotionPort', 'errMotionSearchDirection', 'errMotionSearchType', 'errMotionStepperOutput', 'errMotionStopMode', 'errNetConnection', 'errNetConnectionLost', 'errPWMchannel', 'errPacketTimeout', 'errPinsNotExist', 'errPinsValueNotDefine', 'errRelayIndex', 'errReplyFormat', 'errSPIDataLengthExceedMax', 'errSPIDataSize', 'errSPIFirstBit', 'errSPIMode', 'errSPIPort', 'errSPIPrescaler', 'errThermalChipSelect', 'errThermalMode', 'errThermalPort', 'errThermalType', 'errTrellisSlot', 'errUARTBaudRate', 'errUARTDataBit', 'errUARTExceedMaxLength', 'errUARTParity', 'errUARTPort', 'errUARTStopBit', 'errUSBConnection', 'fillBit', 'printGenericError', 'readBit', 'warnAHRSOverflow', 'warnAIOverflow', 'warnCANOverflow', 'warnLibNotFound', 'warnUARTOverflow', 'writeBit']
@@ -9076,6 +9078,34 @@ class AIModule:
         Returns:
             list[int]: the keys of ai_dict in order
         """
+    def AI_getReadDropped(self, port: int) -> int:
+        """
+        Samples of the port that the decoder dropped on a full queue between the port's previous stream read and its latest one (any of the read methods); nothing is sent.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+        
+        Returns:
+            int: 0 when none were lost or before the first read; on Trellis the most that any enabled chip select lost
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+        """
+    def AI_getReadDropped_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AI_getReadDropped, without timeout: Samples of the port that the decoder dropped on a full queue between the port's previous stream read and its latest one (any of the read methods); nothing is sent.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+        
+        Returns:
+            int: 0 when none were lost or before the first read; on Trellis the most that any enabled chip select lost
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+        """
     def AI_open(self, port: int, timeout: float = 3) -> int:
         """
         Opens the AI port and lets the decoder run (KestrelAin and Trellis send nothing).
@@ -9151,6 +9181,78 @@ class AIModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: port is not an int.
             AIPortNotAvaliableError: port is not a key of ai_dict.
+        """
+    def AI_readStreamingArray(self, port: int, num_samples: int, delay: float = 0.005) -> numpy.typing.NDArray[numpy.float64]:
+        """
+        Takes decoded samples as one float64 array, waiting as AI_readStreaming does.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+            num_samples (int): samples wanted
+            delay (float): seconds to wait for the samples (default 0.005)
+        
+        Returns:
+            numpy.typing.NDArray[numpy.float64]: shape (samples, values): one row per sample, the values AI_readStreaming gives it; fewer rows than asked when delay ran out
+        
+        Raises, before anything is sent:
+            ImportError: numpy is not installed.
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+        """
+    def AI_readStreamingArray_async(self, port: int, num_samples: int, delay: float = 0.005) -> collections.abc.Coroutine[typing.Any, typing.Any, numpy.typing.NDArray[numpy.float64]]:
+        """
+        Awaitable AI_readStreamingArray, without timeout: Takes decoded samples as one float64 array, waiting as AI_readStreaming does.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+            num_samples (int): samples wanted
+            delay (float): seconds to wait for the samples (default 0.005)
+        
+        Returns:
+            numpy.typing.NDArray[numpy.float64]: shape (samples, values): one row per sample, the values AI_readStreaming gives it; fewer rows than asked when delay ran out
+        
+        Raises, before anything is sent:
+            ImportError: numpy is not installed.
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+        """
+    def AI_readStreamingInto(self, port: int, out: numpy.typing.NDArray[numpy.float64], delay: float = 0.005) -> int:
+        """
+        Fills rows of a preallocated float64 array with decoded samples, waiting until every row can be filled or delay passed.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+            out (numpy.typing.NDArray[numpy.float64]): writable, C-contiguous, shape (rows, values per sample): values is ai_num_channels (times the enabled chip selects on Trellis)
+            delay (float): seconds to wait for the samples (default 0.005)
+        
+        Returns:
+            int: samples written, rows 0 to n-1 of out; the rest of out is left as it was
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+            TypeError: out does not hold float64 values.
+            ValueError: out is not 2-D with a row per sample, or not C-contiguous.
+            BufferError: out is read-only.
+        """
+    def AI_readStreamingInto_async(self, port: int, out: numpy.typing.NDArray[numpy.float64], delay: float = 0.005) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable AI_readStreamingInto, without timeout: Fills rows of a preallocated float64 array with decoded samples, waiting until every row can be filled or delay passed.
+        
+        Args:
+            port (int): AI port, a key of ai_dict (on Trellis the slot: 1, 2 or 4)
+            out (numpy.typing.NDArray[numpy.float64]): writable, C-contiguous, shape (rows, values per sample): values is ai_num_channels (times the enabled chip selects on Trellis)
+            delay (float): seconds to wait for the samples (default 0.005)
+        
+        Returns:
+            int: samples written, rows 0 to n-1 of out; the rest of out is left as it was
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            AIPortNotAvaliableError: port is not a key of ai_dict.
+            TypeError: out does not hold float64 values.
+            ValueError: out is not 2-D with a row per sample, or not C-contiguous.
+            BufferError: out is read-only.
         """
     def AI_readStreaming_async(self, port: int, num_samples: int, delay: float = 0.005) -> collections.abc.Coroutine[typing.Any, typing.Any, list[list[float]]]:
         """
@@ -9459,6 +9561,10 @@ class AIModule:
         Raises, before anything is sent:
             InputTypeNotCorrectError: port is not an int.
             AIPortNotAvaliableError: port is not a key of ai_dict.
+        """
+    def _AI_sampleWidth(self, port: int) -> int:
+        """
+        Values per sample of the port now: the column count of an array read.
         """
     def _AI_startStreaming(self, port: int, timeout: float = 3) -> int:
         """

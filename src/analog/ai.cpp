@@ -124,6 +124,8 @@ AIModule::Streams& AIModule::streams() {
     auto add = [&](int port, int cs) {
       streams_.raw.push_back(pool.get(StreamKey::triple(cmd, port, cs)));
       streams_.decoded.push_back(std::make_shared<StreamQueue>(QUEUE_SIZE_MAX));
+      streams_.dropped.emplace_back(0);
+      streams_.dropped_counted.push_back(0);
     };
     if (model().ai.slots) {
       for (int port : {0, 1, 3})
@@ -163,7 +165,7 @@ void AIModule::decodeLoop() {
         if (!rec) continue;
         took = true;
         if (rec->empty()) continue;  // a close marker
-        decodeRecord(*rec, *s.decoded[i]);
+        decodeRecord(*rec, i);
       }
       if (!took) sleepUntilRecord(s, seen);
     }
@@ -191,7 +193,8 @@ void AIModule::sleepUntilRecord(Streams& s, uint64_t seen) {
   for (auto& [q, id] : watches) q->unwatch(id);
 }
 
-void AIModule::decodeRecord(const Bytes& raw, StreamQueue& out) {
+void AIModule::decodeRecord(const Bytes& raw, size_t index) {
+  StreamQueue& out = *streams_.decoded[index];
   const auto n = static_cast<size_t>(aiNumChannels());
   const size_t width = 2 * n;
   if (n == 0 || raw.size() % width != 0)
@@ -208,6 +211,7 @@ void AIModule::decodeRecord(const Bytes& raw, StreamQueue& out) {
     }
     if (!out.push(packSample(dst, n))) {
       dropped_.fetch_add(1);
+      streams_.dropped[index].fetch_add(1);
       report::warning(ErrorId::AIQueueOverflowWarning);
     }
   }
@@ -243,6 +247,12 @@ size_t AIModule::decodedSize(size_t index) {
   Streams& s = streams();
   if (index >= s.decoded.size()) throw IndexError("list index out of range");
   return s.decoded[index]->size();
+}
+
+uint64_t AIModule::droppedAt(size_t index) {
+  Streams& s = streams();
+  if (index >= s.dropped.size()) throw IndexError("list index out of range");
+  return s.dropped[index].load();
 }
 
 Value AIModule::slotPort(const Value& port) const {
@@ -509,45 +519,129 @@ AiSample AIModule::AI_readOnDemand(const Call& c, const Value& port_in) {
   return out;
 }
 
-AiSamples AIModule::AI_readStreaming(const Call& c, const Value& port_in, int64_t num_samples,
-                                     double delay) {
+AIModule::ReadPlan AIModule::planRead(const Value& port_in) {
   const Value port = slotPort(port_in);
   _checkAIPort(port);
-  const int64_t p = portKey(port);
-  const auto chips = chipSelect(static_cast<int>(p));
+  ReadPlan plan;
+  plan.port = portKey(port);
   Streams& s = streams();
-  std::vector<StreamQueue*> queues;
-  for (int64_t cs : chips)
-    queues.push_back(s.decoded.at(static_cast<size_t>(AI_changePortToIndex_(p, cs))).get());
+  for (int64_t cs : chipSelect(static_cast<int>(plan.port))) {
+    const auto index = static_cast<size_t>(AI_changePortToIndex_(plan.port, cs));
+    plan.indices.push_back(index);
+    plan.queues.push_back(s.decoded.at(index).get());
+  }
+  return plan;
+}
 
-  // Until every enabled chip select has num_samples, or delay has passed;
-  // the count is the smallest over them.
+// Until every enabled chip select has num_samples, or delay has passed; the
+// count is the smallest over them.
+int64_t AIModule::samplesToTake(const Call& c, const ReadPlan& plan, int64_t num_samples,
+                                double delay) {
   int64_t samp_count = 0;
   if (delay > 0 && num_samples > 0) {
     const auto deadline = Clock::now() + std::chrono::duration_cast<Clock::duration>(
                                              std::chrono::duration<double>(std::min(delay, 1e9)));
-    for (StreamQueue* q : queues) c.waitQueue(*q, static_cast<size_t>(num_samples), deadline);
+    for (StreamQueue* q : plan.queues) c.waitQueue(*q, static_cast<size_t>(num_samples), deadline);
     int64_t n_min = 2147483648;
-    for (StreamQueue* q : queues) n_min = std::min(n_min, static_cast<int64_t>(q->size()));
+    for (StreamQueue* q : plan.queues) n_min = std::min(n_min, static_cast<int64_t>(q->size()));
     samp_count = n_min;
   }
-  const int64_t take = std::min(num_samples, samp_count);
+  return std::min(num_samples, samp_count);
+}
+
+std::optional<Bytes> AIModule::takeSample(const Call& c, StreamQueue& q) {
+  std::optional<Bytes> item = q.tryPop();
+  while (!item && !c.isAwaitable()) {
+    c.waitQueue(q, 1, Clock::time_point::max());
+    item = q.tryPop();
+  }
+  return item;
+}
+
+void AIModule::countReadDrops(const ReadPlan& plan) {
+  std::lock_guard lk(read_m_);
+  uint64_t most = 0;
+  for (size_t index : plan.indices) {
+    const uint64_t now = streams_.dropped[index].load();
+    most = std::max(most, now - streams_.dropped_counted[index]);
+    streams_.dropped_counted[index] = now;
+  }
+  read_dropped_[plan.port] = most;
+}
+
+uint64_t AIModule::AI_getReadDropped(const Value& port_in) {
+  const Value port = slotPort(port_in);
+  _checkAIPort(port);
+  std::lock_guard lk(read_m_);
+  auto it = read_dropped_.find(portKey(port));
+  return it == read_dropped_.end() ? 0 : it->second;
+}
+
+size_t AIModule::AI_sampleWidth(const Value& port_in) {
+  const Value port = slotPort(port_in);
+  _checkAIPort(port);
+  return static_cast<size_t>(aiNumChannels()) * chipSelect(static_cast<int>(portKey(port))).size();
+}
+
+AiSamples AIModule::AI_readStreaming(const Call& c, const Value& port, int64_t num_samples,
+                                     double delay) {
+  const ReadPlan plan = planRead(port);
+  const int64_t take = samplesToTake(c, plan, num_samples, delay);
   AiSamples out;
   for (int64_t i = 0; i < take; ++i) {
     AiSample sample;
-    for (StreamQueue* q : queues) {
-      std::optional<Bytes> item = q->tryPop();
-      // Another reader took it meanwhile: the blocking twin waits for the
-      // next, the awaitable one takes what is there.
-      while (!item && !c.isAwaitable()) {
-        c.waitQueue(*q, 1, Clock::time_point::max());
-        item = q->tryPop();
-      }
-      if (item) unpackAppend(*item, sample);
-    }
+    for (StreamQueue* q : plan.queues)
+      if (std::optional<Bytes> item = takeSample(c, *q)) unpackAppend(*item, sample);
     out.push_back(std::move(sample));
   }
+  countReadDrops(plan);
   return out;
+}
+
+// `take` samples of the plan's queues into rows of `width` values at `out`.
+size_t AIModule::fillRows(const Call& c, const ReadPlan& plan, int64_t take, double* out,
+                          size_t width) {
+  size_t written = 0;
+  for (int64_t i = 0; i < take; ++i) {
+    double* row = out + written * width;
+    size_t filled = 0;
+    bool fits = true;
+    for (StreamQueue* q : plan.queues) {
+      std::optional<Bytes> item = takeSample(c, *q);
+      if (!item) continue;
+      const size_t n = item->size() / sizeof(double);
+      if (!fits || filled + n > width) {
+        fits = false;
+        continue;
+      }
+      std::memcpy(row + filled, item->data(), n * sizeof(double));
+      filled += n;
+    }
+    if (fits && filled == width) ++written;
+  }
+  return written;
+}
+
+size_t AIModule::AI_readStreamingInto(const Call& c, const Value& port, double* out, size_t rows,
+                                      size_t width, double delay) {
+  const ReadPlan plan = planRead(port);
+  const auto wanted = static_cast<int64_t>(std::min<size_t>(rows, INT64_MAX));
+  const size_t written = fillRows(c, plan, samplesToTake(c, plan, wanted, delay), out, width);
+  countReadDrops(plan);
+  return written;
+}
+
+AiBlock AIModule::AI_readStreamingBlock(const Call& c, const Value& port, int64_t num_samples,
+                                        double delay) {
+  AiBlock block;
+  block.width = AI_sampleWidth(port);
+  const ReadPlan plan = planRead(port);
+  const int64_t take = std::max<int64_t>(samplesToTake(c, plan, num_samples, delay), 0);
+  block.values.resize(static_cast<size_t>(take) * block.width);
+  block.samples = fillRows(c, plan, take, block.values.data(), block.width);
+  block.values.resize(block.samples * block.width);
+  countReadDrops(plan);
+  return block;
 }
 
 }  // namespace orv

@@ -19,6 +19,8 @@
 #include <atomic>
 #include <condition_variable>
 #include <cstdint>
+#include <deque>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -79,6 +81,14 @@ class Doorbell {
 using AiSample = std::vector<double>;
 using AiSamples = std::vector<AiSample>;
 
+// Samples of a stream read laid out flat, row by row: `samples` rows of
+// `width` values (the host makes a (samples, width) array of it).
+struct AiBlock {
+  std::vector<double> values;
+  size_t samples = 0;
+  size_t width = 0;
+};
+
 class AIModule : public ModuleBase {
  public:
   AIModule();
@@ -98,6 +108,21 @@ class AIModule : public ModuleBase {
   int AI_stop(const Call& c, const Value& port);
   AiSample AI_readOnDemand(const Call& c, const Value& port);
   AiSamples AI_readStreaming(const Call& c, const Value& port, int64_t num_samples, double delay);
+  // The same read into flat rows of the port's sample width (see
+  // AI_sampleWidth): into a new block, or into `out`, which has room for
+  // `rows` samples (rows * width values); returns the samples written.  A
+  // sample of another width (decoded before the channel count changed) does
+  // not fit a row: it is taken from its queue and left out.
+  AiBlock AI_readStreamingBlock(const Call& c, const Value& port, int64_t num_samples,
+                                double delay);
+  size_t AI_readStreamingInto(const Call& c, const Value& port, double* out, size_t rows,
+                              size_t width, double delay);
+  // Values per sample of the port now: channels times enabled chip selects.
+  size_t AI_sampleWidth(const Value& port);
+  // Samples of the port dropped because its decoded queue was full, counted
+  // between the port's previous read and its latest one (on Trellis the most
+  // that any enabled chip select lost); 0 before the first read.
+  uint64_t AI_getReadDropped(const Value& port);
 
   // Internal operations.
   std::vector<uint32_t> AI_getCounter_(const Call& c, const Value& port);
@@ -128,6 +153,8 @@ class AIModule : public ModuleBase {
   size_t decodedSize(size_t index);
   // Samples dropped because a decoded queue was full, since the start.
   uint64_t droppedSamples() const { return dropped_.load(); }
+  // The same for the stream at one index of the queue lists.
+  uint64_t droppedAt(size_t index);
   bool decoderAlive() const { return decoder_alive_.load(); }
   // Ends and joins the decoder (the model's close and the destructor).
   void closeModule() noexcept override;
@@ -135,13 +162,32 @@ class AIModule : public ModuleBase {
  private:
   struct Streams {
     std::vector<std::shared_ptr<StreamQueue>> raw, decoded;
+    // Per index: samples its decoded queue dropped, and how many of them a
+    // read of its port has counted (under read_m_).
+    std::deque<std::atomic<uint64_t>> dropped;
+    std::vector<uint64_t> dropped_counted;
   };
+  // What a stream read of one port works with.
+  struct ReadPlan {
+    int64_t port = 0;
+    std::vector<size_t> indices;
+    std::vector<StreamQueue*> queues;
+  };
+  ReadPlan planRead(const Value& port_in);
+  // Waits as AI_readStreaming does and returns how many samples to take.
+  int64_t samplesToTake(const Call& c, const ReadPlan& plan, int64_t num_samples, double delay);
+  // One queue's next sample; the blocking twin waits for one another reader
+  // took meanwhile, the awaitable one answers nullopt.
+  static std::optional<Bytes> takeSample(const Call& c, StreamQueue& q);
+  size_t fillRows(const Call& c, const ReadPlan& plan, int64_t take, double* out, size_t width);
+  // Counts the drops of the plan's streams up to now as the port's latest read's.
+  void countReadDrops(const ReadPlan& plan);
   // Made on first use: the model's row is not there while modules construct.
   Streams& streams();
   void decodeLoop();
   void sleepUntilRecord(Streams& s, uint64_t seen);
   // One raw record into samples on `out`.
-  void decodeRecord(const Bytes& raw, StreamQueue& out);
+  void decodeRecord(const Bytes& raw, size_t index);
   std::vector<int64_t>& chipSelectRef(int64_t port);
   void putMarkers();
   void closeDecoded();
@@ -152,6 +198,8 @@ class AIModule : public ModuleBase {
   std::atomic<bool> killed_{false};
   std::atomic<bool> decoder_alive_{true};
   std::atomic<uint64_t> dropped_{0};
+  std::mutex read_m_;
+  std::map<int64_t, uint64_t> read_dropped_;  // by port, under read_m_
   mutable std::mutex cs_m_;
   std::vector<int64_t> cs_p0_{0}, cs_p1_{0}, cs_p3_{0};
   Gate ai_lock_;  // closed: the decoder stands still

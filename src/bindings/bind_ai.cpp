@@ -7,6 +7,9 @@
 
 namespace orv::py_bind {
 
+// bind_ai_array.cpp: the array reads and the per-read dropped count.
+void bindAIArrays(py::class_<AIModule, std::shared_ptr<AIModule>>& cls);
+
 namespace {
 
 constexpr const char* kVolts = "list[float]";
@@ -115,6 +118,7 @@ void bindAI(py::module_& m) {
                   {"delay", kFloat, "seconds to wait for them", "0.005"}},
                  {kSamples, "samples, each a list of volts; fewer than asked when delay ran out"},
                  kPortRefused});
+  bindAIArrays(cls);
 
   defTwin(cls, &A::AI_getCounter_,
           {"_AI_getCounter",

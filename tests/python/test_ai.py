@@ -9,6 +9,7 @@ import random
 import struct
 import threading
 import time
+from functools import partial
 
 import pytest
 
@@ -286,7 +287,7 @@ def test_a_malformed_record_ends_the_decoder_and_reads_return(pair):
     assert len(dev.AI_readStreaming(0, 5, 0.1)) == 1
 
 
-def test_overflow_drops_and_warns(pair):
+def test_overflow_drops_and_warns_and_each_read_tells_its_drops(pair):
     dev, s = streaming(pair, "HeronAinImu")
     s.state_set("ai.flat_out", True)
     s.state_set("ai.record_samples", 4000)
@@ -299,26 +300,112 @@ def test_overflow_drops_and_warns(pair):
         assert wait_until(lambda: dev.ai_dropped_samples == 3, timeout=60)
     assert decoded(dev) == 1_000_000
     assert sum(isinstance(w.message, pyorv.AIQueueOverflowWarning) for w in caught) == 3
+    assert dev.AI_getReadDropped(0) == 0  # no read yet
     first = dev.AI_readStreaming(0, 2, 1.0)
     assert first == [[round(0 * R5, 4)], [round(1 * R5, 4)]]
+    assert dev.AI_getReadDropped(0) == 3
+    # Two places free, five samples come: three more are lost, and the next
+    # read (the array read here: every read counts) tells those three only.
+    with pytest.warns(pyorv.AIQueueOverflowWarning):
+        s.send(START_AI_STREAMING_VARIABLE, bytes([0, 0]) + struct.pack(">5h", *range(5)))
+        assert wait_until(lambda: dev.ai_dropped_samples == 6)
+    out = memoryview(bytearray(8)).cast("d", [1, 1])
+    assert dev.AI_readStreamingInto(0, out, 1.0) == 1 and out[0, 0] == round(2 * R5, 4)
+    assert asyncio.run(dev.AI_getReadDropped_async(0)) == 3
+    assert len(asyncio.run(dev.AI_readStreaming_async(0, 1, 1.0))) == 1
+    assert dev.AI_getReadDropped(0) == 0 and dev.ai_dropped_samples == 6
+    with pytest.raises(pyorv.AIPortNotAvaliableError):
+        dev.AI_getReadDropped(1)
+
+
+# ---- array reads -----------------------------------------------------------------------
+
+@pytest.mark.parametrize("model", ["PloverAin", "Trellis"])
+def test_array_reads_give_the_list_reads_values(pair, model):
+    np = pytest.importorskip("numpy")
+    if model == "Trellis":
+        dev, s = pair(model, mac="02:4F:52:56:00:0A", gateway="127.0.0.254")
+        dev.AI_enableCS(1, [0, 2])
+        width, port = 16, 1
+    else:
+        dev, s = pair(model)
+        dev.AI_enableChannel(0, 3)
+        width, port = 3, 0
+    s.state_set("ai.flat_out", True)
+    dev.AI_open(0)
+    dev.AI_setMode(port, 1)
+    dev.AI_setNumSamples(port, 2000)
+    dev.AI_start(port)
+    expect = ramp_values(0, 2000, 8 if model == "Trellis" else 3, dev.ai_ratio)
+    if model == "Trellis":
+        expect = [r + r for r in expect]  # chip 0, then chip 2
+    got = dev.AI_readStreaming(port, 500, 2.0)
+    a = dev.AI_readStreamingArray(port, 500, 2.0)
+    assert a.dtype == np.float64 and a.shape == (500, width) and a.flags.c_contiguous
+    b = asyncio.run(dev.AI_readStreamingArray_async(port, 300, 2.0))
+    out = np.full((450, width), -99.0)
+    assert dev.AI_readStreamingInto(port, out[:400], 2.0) == 400
+    assert out[400:].tolist() == [[-99.0] * width] * 50  # rows past the view untouched
+    rest = np.empty((400, width))
+    assert asyncio.run(dev.AI_readStreamingInto_async(port, rest, 2.0)) == 300
+    assert got == expect[:500]
+    assert np.concatenate([a, b, out[:400], rest[:300]]).tolist() == expect[500:]
+    assert dev.AI_readStreamingArray(port, 10, 0.05).shape == (0, width)
+
+
+def test_array_reads_refuse_a_wrong_out_and_take_nothing(pair):
+    np = pytest.importorskip("numpy")
+    dev, s = pair("PloverAin")
+    dev.AI_open(0)
+    push_records(s, 3)
+    assert wait_until(lambda: decoded(dev) == 3)
+    for bad, error in [(np.zeros((3, 8), np.float32), TypeError),
+                       (np.zeros((3, 8), np.int64), TypeError),
+                       (np.zeros((3, 7)), ValueError),
+                       (np.zeros(24), ValueError),
+                       (np.zeros((3, 16))[:, ::2], ValueError),
+                       (np.zeros((8, 3)).T, ValueError)]:
+        with pytest.raises(error):
+            dev.AI_readStreamingInto(0, bad, 1.0)
+        with pytest.raises(error):
+            dev.AI_readStreamingInto_async(0, bad, 1.0)
+    frozen = np.zeros((3, 8))
+    frozen.flags.writeable = False
+    with pytest.raises((BufferError, ValueError)):
+        dev.AI_readStreamingInto(0, frozen, 1.0)
+    with pytest.raises(pyorv.AIPortNotAvaliableError):
+        dev.AI_readStreamingArray(1, 3, 1.0)
+    assert decoded(dev) == 3
+    assert dev.AI_readStreamingArray(0, 3, 1.0).tolist() == [[round(k * R10, 4)] * 8
+                                                              for k in range(3)]
 
 
 # ---- close during a read ---------------------------------------------------------------
 
-def test_close_ends_a_blocking_read(pair):
+def read_into(dev, port, n, delay):
+    """AI_readStreamingInto with no numpy: a memoryview of n rows of 8 doubles."""
+    return dev.AI_readStreamingInto(port, memoryview(bytearray(64 * n)).cast("d", [n, 8]), delay)
+
+
+@pytest.mark.parametrize("name", ["AI_readStreaming", "AI_readStreamingInto",
+                                  "AI_readStreamingArray"])
+def test_close_ends_a_blocking_read(pair, name):
+    if name == "AI_readStreamingArray":
+        pytest.importorskip("numpy")
     dev, s = pair("KestrelAin")
     dev.AI_open(0)
+    read = partial(read_into, dev) if name == "AI_readStreamingInto" else getattr(dev, name)
     out = {}
 
-    def read():
+    def read_now():
         t = time.monotonic()
         try:
-            out["r"] = dev.AI_readStreaming(0, 10, 30)
+            out["r"] = read(0, 10, 30)
         except Exception as e:  # noqa: BLE001 - the error is the result here
             out["r"] = e
         out["t"] = time.monotonic() - t
 
-    th = threading.Thread(target=read)
+    th = threading.Thread(target=read_now)
     th.start()
     time.sleep(0.2)
     dev.close(verbose=False)
@@ -328,12 +415,15 @@ def test_close_ends_a_blocking_read(pair):
     assert dev.ai_decoder_alive is False
 
 
-def test_close_ends_an_awaitable_read_and_the_loop_stays_free(pair):
+@pytest.mark.parametrize("name", ["AI_readStreaming_async", "AI_readStreamingArray_async"])
+def test_close_ends_an_awaitable_read_and_the_loop_stays_free(pair, name):
+    if "Array" in name:
+        pytest.importorskip("numpy")
     dev, s = pair("HeronAin")
     dev.AI_open(0)
 
     async def main():
-        task = asyncio.ensure_future(dev.AI_readStreaming_async(0, 10, 30))
+        task = asyncio.ensure_future(getattr(dev, name)(0, 10, 30))
         ticks = 0
         for _ in range(5):
             await asyncio.sleep(0.02)

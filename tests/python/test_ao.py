@@ -4,6 +4,7 @@ the checks and their kept oddities, the simulated output state, and an
 output wired back to an analog input."""
 
 import asyncio
+import math
 import struct
 
 import pytest
@@ -154,3 +155,32 @@ def test_an_output_read_back_by_an_input(pair):
     ratio = dev.ai_ratio
     assert dev.AI_readOnDemand(0) == [round(round(v / ratio) * ratio, 4)
                                       for v in (0, 0.5, 1.25, 2, 3.3, 4, 4.75, 5)]
+    # A running sine on AO channel 1 (5 Hz, 2 V about 2.5 V), streamed back on
+    # AI channel 0 at 1 kHz: two whole periods of that sine, of some phase.
+    s.state_set("ai.wave", [["ao", 1, 0]])
+    dev.AO_setMode(0, 2)
+    dev.AO_setEnableChannels(0, [1])
+    dev.AO_setForm(0, 1, 3)
+    dev.AO_setFormParam(0, 1, 2, 2.5, 5)
+    dev.AO_openStreaming(0)
+    dev.AO_startStreaming(0)
+    dev.AI_enableChannel(0, 1)
+    dev.AI_setSamplingRate(0, 1000)
+    dev.AI_setMode(0, 1)
+    dev.AI_setNumSamples(0, 400)
+    dev.AI_open(0)
+    dev.AI_start(0)
+    got = []
+    while len(got) < 400:
+        part = dev.AI_readStreaming(0, 400 - len(got), 3.0)
+        assert part, "the stream stopped early"
+        got += [v for (v,) in part]
+    w = [2 * math.pi * 5 * k / 1000 for k in range(400)]
+    cos_phi = sum((v - 2.5) * math.sin(x) for v, x in zip(got, w)) / 400
+    sin_phi = sum((v - 2.5) * math.cos(x) for v, x in zip(got, w)) / 400
+    assert math.hypot(cos_phi, sin_phi) == pytest.approx(1, abs=0.01)  # amplitude 2: 2 * 2 / 4
+    phi = math.atan2(sin_phi, cos_phi)
+    assert max(abs(v - 2.5 - 2 * math.sin(x + phi)) for v, x in zip(got, w)) < 2 * ratio
+    # Stopped: the channel holds its on-demand value again.
+    dev._AO_stopStreaming(0)
+    assert dev.AI_readOnDemand(0) == [round(round(0.5 / ratio) * ratio, 4)]
