@@ -93,11 +93,12 @@ py::dict entriesDict(const std::vector<TmcEntry>& entries) {
 // name -> value or (value, register): the values are taken, registers are fixed.
 template <class Set>
 void setEntries(const py::dict& d, Set set) {
-  for (auto [k, v] : d) {
-    py::object value = py::reinterpret_borrow<py::object>(v);
+  for (const auto& item : d) {
+    const py::handle k = item.first;
+    py::object value = py::reinterpret_borrow<py::object>(item.second);
     if (py::isinstance<py::sequence>(value) && !py::isinstance<py::str>(value))
       value = value[py::int_(0)];
-    set(k.cast<std::string>(), value.cast<int64_t>());
+    set(py::cast<std::string>(k), py::cast<int64_t>(value));
   }
 }
 

@@ -123,7 +123,7 @@ def test_fields_decode_from_the_catalogue(drive):
     assert wire(s) == [(READ, bytes([0, 0x6C]))]
     dev._Motion_resetPosition(0, -5)
     assert dev.Motion_readRegisterFields(0, pyorv.MRDR_21_XACTUAL).fields == {"xactual": -5}
-    assert dev.Motion_readEncoderPosition(0) == [2**32 - 5, 2**32 - 5]   # unsigned, as sent
+    assert dev.Motion_readEncoderPosition(0) == [0, 2**32 - 5]   # the encoder stays; unsigned
     s.state_set("tmc5240.limit_forward", 1)
     ramp = asyncio.run(dev.Motion_readRegisterFields_async(0, pyorv.MRDR_35_RAMPSTAT))
     assert ramp.fields["status_stop_l"] == 1 and ramp.fields["status_stop_r"] == 0
