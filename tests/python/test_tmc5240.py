@@ -41,8 +41,8 @@ STARTS = {
         (0, 1000, 2000, 3000, -1), pyorv.MOTION_START_V_MOVE,
         [0, 0, 0, 3, 232, 0, 0, 7, 208, 0, 0, 11, 184, 0xFF]),
     "Motion_startPositionMove": (
-        (0, -2, 500, 10, 20, 1), pyorv.MOTION_START_P_MOVE,
-        [0] + i32(-2) + u32(500, 10, 20) + [1]),
+        (0, -200000, 500, 10, 20, 1), pyorv.MOTION_START_P_MOVE,
+        [0] + i32(-200000) + u32(500, 10, 20) + [1]),
     "Motion_startScanMove": (
         (0, -100, 100, 50, 7), pyorv.MOTION_START_SCAN_MOVE,
         [0] + i32(-100, 100) + u32(50, 7)),
@@ -179,15 +179,24 @@ def test_global_fault_alarms_refuses_and_ends_a_move(drive):
 
 # ---- processes on the simulated firmware ---------------------------------------------
 
+SEARCHES = {  # start, the switch's state key, arguments before reset_position, process state
+    "home": ("Motion_startFindHome", "home_at", (0, 1500, 1000, 10000, -1, 1, 40), 5),
+    "index": ("Motion_startFindZPolarity", "index_at", (0, 1500, 1000, 10000, -1, 1, 40), 6),
+    "limit": ("Motion_startFindLimit", "limit_reverse_at", (0, -1, 1500, 1000, 10000, 40), 4),
+}
+
+
 @pytest.mark.parametrize("reset, end", [("true", 0), (True, -600 + 40)])
-def test_home_search_then_position_move(drive, reset, end):
+@pytest.mark.parametrize("search", SEARCHES)
+def test_search_then_position_move(drive, search, reset, end):
     dev, s = drive
-    s.state_set("tmc5240.home_at", -600)
-    assert dev.Motion_startFindHome(0, 3000, 1000, 10000, -1, 1, 40, reset) == 0
-    assert dev.Motion_getProcessState(0) == 5
+    name, key, args, state = SEARCHES[search]
+    s.state_set("tmc5240." + key, -600)
+    assert getattr(dev, name)(*args, reset) == 0
+    assert dev.Motion_getProcessState(0) == state
     assert wait_until(lambda: dev.Motion_getProcessState(0) == 0)
     assert dev.Motion_readEncoderPosition(0)[1] == end % 2**32
-    assert dev.Motion_startPositionMove(0, 500, 5000, 10000, 10000, 0) == 0
+    assert dev.Motion_startPositionMove(0, 500, 2500, 10000, 10000, 0) == 0
     assert dev.Motion_getProcessState(0) == 2
     assert wait_until(lambda: asyncio.run(dev.Motion_getProcessState_async(0)) == 0)
     assert dev.Motion_readEncoderPosition(0) == [500, 500]
