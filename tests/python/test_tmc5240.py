@@ -213,6 +213,17 @@ def test_stop_ends_a_velocity_move(drive):
     assert dev.Motion_readCurrentVelocity(0) == 0
 
 
+def test_a_limit_ends_a_velocity_move(drive):
+    dev, s = drive
+    s.state_set("tmc5240.limit_forward_at", 300)
+    assert dev.Motion_startVelocticyMove(0, 2000, 100, 100, 1) == 0
+    assert wait_until(lambda: dev.Motion_getProcessState(0) == 0)
+    position = dev.Motion_readEncoderPosition(0)[1]
+    assert 300 <= position < 2**31 and dev.status_bit6_stopl == 1
+    assert dev.Motion_startVelocticyMove(0, 2000, 100, 100, -1) == 0   # away from it is free
+    assert dev.Motion_getProcessState(0) == 1
+
+
 # ---- the ini file --------------------------------------------------------------------
 
 def test_ini_file_is_configparsers_and_loads_to_port_zero(drive, tmp_path):
