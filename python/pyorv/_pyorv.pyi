@@ -7,7 +7,7 @@ import numpy
 import numpy.typing
 import typing
 from . import _sim
-__all__: list[str] = ['AHRSModeNotAvaliableError', 'AHRSModule', 'AHRSPortNotAvaliableError', 'AHRSQueueOverflowWarning', 'AHRS_START', 'AI24BitModule', 'AICSNotAvaliableError', 'AIChannelNotAvaliableError', 'AIModeNotAvaliableError', 'AIModule', 'AIPortNotAvaliableError', 'AIQueueOverflowWarning', 'AIRateNotVaildError', 'AOChannelNotAvaliableError', 'AOFormNotAvaliableError', 'AOModeNotVaildError', 'AOModule', 'AOPortNotAvaliableError', 'AORateNotVaildError', 'AOSpanNotVaildError', 'APINotSupportError', 'BROADCAST_CMD_LIST', 'BroadcastDevice', 'BroadcastModule', 'CANDataLengthNotVaildError', 'CANFrame', 'CANModule', 'CANPortNotAvaliableError', 'CANQueueOverflowWarning', 'CANSpeedNotVaildError', 'CANTXNotVaildError', 'CANTXPriorityNotVaildError', 'CHECK_CALCULATUON', 'CHECK_MAC_AND_REBOOT', 'CHECK_MAC_AND_SET_IP', 'CMD_CR', 'CMD_CR_2', 'CMD_INDEX', 'CMD_INDEX_2', 'CMD_LF', 'CMD_LF_2', 'CMD_STX', 'CMD_STX_2', 'CONNECTION_TIMEOUT', 'Client', 'CounterChannelNotAvaliableError', 'CounterModule', 'DIOModule', 'DIPortNotAvaliableError', 'DOPortNotAvaliableError', 'DPOTChannelNotAvaliableError', 'DPOTModule', 'DPOTPortNotAvaliableError', 'DataLogger', 'Device', 'DeviceClosedError', 'DeviceFinder', 'ECHO_DELAY', 'ETHDevice', 'Error', 'ExtLibNotFoundWarning', 'FirmwareAIError', 'FirmwareAOError', 'FirmwareBootloaderError', 'FirmwareCANError', 'FirmwareCoreError', 'FirmwareDIOError', 'FirmwareDriveError', 'FirmwareEEPROMError', 'FirmwareEnableError', 'FirmwareEncoderError', 'FirmwareHALIndexError', 'FirmwareI2CError', 'FirmwareMotionError', 'FirmwareOLEDError', 'FirmwareORVIndexError', 'FirmwareOtherError', 'FirmwarePWMError', 'FirmwareParserError', 'FirmwarePinIndexError', 'FirmwarePulseError', 'FirmwareRTCError', 'FirmwareRelayError', 'FirmwareSPIError', 'FirmwareTCPError', 'FirmwareTIMError', 'FirmwareThermalError', 'FirmwareUARTError', 'FirmwareUDPError', 'FirmwareUSBError', 'GET_DEVICE_INFO', 'GET_DRIVER_INFO', 'HANDLE_DICT', 'HANDLE_LIST', 'HeronAin', 'HeronAinImu', 'HeronAinPlus', 'I2CAddressSizeNotVaildError', 'I2CClockNotSupportError', 'I2CModule', 'I2CPortNotAvaliableError', 'IniFileExtensionNameError', 'IniFileNotFoundError', 'InputDataNotInRangeError', 'InputTypeNotConsistentError', 'InputTypeNotCorrectError', 'KestrelAin', 'KestrelAout', 'KestrelCin', 'KestrelCvin', 'KestrelDio', 'KestrelDioX', 'KestrelRelay', 'KestrelRes', 'KestrelTherm', 'LABEL_DICT', 'LinkNotOpenError', 'MCX514Driver', 'MCX514Module', 'MOTION', 'MOTION_00_JK', 'MOTION_01_DJ', 'MOTION_02_AC', 'MOTION_03_DC', 'MOTION_04_SV', 'MOTION_05_DV', 'MOTION_06_TP', 'MOTION_07_DP', 'MOTION_08_CP', 'MOTION_09_LP', 'MOTION_0A_RP', 'MOTION_0B_SP', 'MOTION_0C_SM', 'MOTION_0D_AO', 'MOTION_0E_LX', 'MOTION_0F_RX', 'MOTION_10_MR0', 'MOTION_11_MR1', 'MOTION_12_MR2', 'MOTION_13_MR3', 'MOTION_14_HV', 'MOTION_15_IV', 'MOTION_16_TM', 'MOTION_17_SP1', 'MOTION_18_SP2', 'MOTION_19_TX', 'MOTION_1A_HLN', 'MOTION_1B_HLV', 'MOTION_1C_GPIO', 'MOTION_1F_NOP', 'MOTION_20_MRM', 'MOTION_21_P1M', 'MOTION_22_P2M', 'MOTION_23_H1M', 'MOTION_24_H2M', 'MOTION_25_FLM', 'MOTION_26_S0M', 'MOTION_27_S1M', 'MOTION_28_S2M', 'MOTION_29_S3M', 'MOTION_2A_IPM', 'MOTION_30_LP', 'MOTION_31_RP', 'MOTION_32_CV', 'MOTION_33_CA', 'MOTION_34_MR0', 'MOTION_35_MR1', 'MOTION_36_MR2', 'MOTION_37_MR3', 'MOTION_38_CT', 'MOTION_39_TX', 'MOTION_3A_CHLN', 'MOTION_3B_HLV', 'MOTION_3D_WR1', 'MOTION_3E_WR2', 'MOTION_3F_WR3', 'MOTION_40_MRM', 'MOTION_41_P1M', 'MOTION_42_P2M', 'MOTION_43_AC', 'MOTION_44_SV', 'MOTION_45_DV', 'MOTION_46_TP', 'MOTION_47_SP1', 'MOTION_48_UI', 'MOTION_50_DRVRL', 'MOTION_51_DRVNR', 'MOTION_52_DRVVP', 'MOTION_53_DRVVM', 'MOTION_54_DRVAB', 'MOTION_56_DRVSBRK', 'MOTION_57_DRVFBRK', 'MOTION_58_DIRCP', 'MOTION_59_DIRCM', 'MOTION_5A_HMSRC', 'MOTION_60_LHK1', 'MOTION_61_LHK2', 'MOTION_62_LHK3', 'MOTION_63_LHK4', 'MOTION_64_CHKCW', 'MOTION_65_CHKCCW', 'MOTION_66_BHK2', 'MOTION_67_BHK3', 'MOTION_68_BHK4', 'MOTION_69_HLCW', 'MOTION_6A_HLCCW', 'MOTION_6B_HLPCW', 'MOTION_6C_HLPCCW', 'MOTION_6D_DECEN', 'MOTION_6E_DECDIS', 'MOTION_6F_CLRSTEP', 'MOTION_70_VINC', 'MOTION_71_VDEC', 'MOTION_72_DCC', 'MOTION_73_TMSTA', 'MOTION_74_TMSTP', 'MOTION_75_SPSTA', 'MOTION_76_SPSTP', 'MOTION_77_DHOLD', 'MOTION_78_DFREE', 'MOTION_79_R2CLR', 'MOTION_7A_RR3P0', 'MOTION_7B_RR3P1', 'MOTION_7C_MFPC', 'MOTION_81_SYNC0EN', 'MOTION_82_SYNC1EN', 'MOTION_83_SYNC01EN', 'MOTION_84_SYNC2EN', 'MOTION_85_SYNC02EN', 'MOTION_86_SYNC12EN', 'MOTION_87_SYNC012EN', 'MOTION_88_SYNC3EN', 'MOTION_89_SYNC03EN', 'MOTION_8A_SYNC13EN', 'MOTION_8B_SYNC013EN', 'MOTION_8C_SYNC23EN', 'MOTION_8D_SYNC023EN', 'MOTION_8E_SYNC123EN', 'MOTION_8F_SYNC0123EN', 'MOTION_91_SYNC0DIS', 'MOTION_92_SYNC1DIS', 'MOTION_93_SYNC01DIS', 'MOTION_94_SYNC2DIS', 'MOTION_95_SYNC02DIS', 'MOTION_96_SYNC12DIS', 'MOTION_97_SYNC012DIS', 'MOTION_98_SYNC3DIS', 'MOTION_99_SYNC03DIS', 'MOTION_9A_SYNC13DIS', 'MOTION_9B_SYNC013DIS', 'MOTION_9C_SYNC23DIS', 'MOTION_9D_SYNC023DIS', 'MOTION_9E_SYNC123DIS', 'MOTION_9F_SYNC0123DIS', 'MOTION_A1_SYNC0ACT', 'MOTION_A2_SYNC1ACT', 'MOTION_A3_SYNC01ACT', 'MOTION_A4_SYNC2ACT', 'MOTION_A5_SYNC02ACT', 'MOTION_A6_SYNC12ACT', 'MOTION_A7_SYNC012ACT', 'MOTION_A8_SYNC3ACT', 'MOTION_A9_SYNC03ACT', 'MOTION_AA_SYNC13ACT', 'MOTION_AB_SYNC013ACT', 'MOTION_AC_SYNC23ACT', 'MOTION_AD_SYNC023ACT', 'MOTION_AE_SYNC123ACT', 'MOTION_AF_SYNC0123ACT', 'MOTION_C0_SP0L', 'MOTION_C1_SP0E', 'MOTION_C2_SP1L', 'MOTION_C3_SP1E', 'MOTION_C4_SP2L', 'MOTION_C5_SP2E', 'MOTION_C6_INPL', 'MOTION_C7_INPE', 'MOTION_C8_ALML', 'MOTION_C9_ALME', 'MOTION_CA_HLML', 'MOTION_CB_HLME', 'MOTION_CC_HLMM', 'MOTION_CD_SLME', 'MOTION_CE_SLMO', 'MOTION_CF_SLMM', 'MOTION_D0_MANLD', 'MOTION_D1_DSNDE', 'MOTION_D2_SACC', 'MOTION_D3_DPMD0', 'MOTION_D4_DPMD1', 'MOTION_D5_DPL', 'MOTION_D6_DIRL', 'MOTION_D7_DPINV', 'MOTION_D8_PIMD0', 'MOTION_D9_PIMD1', 'MOTION_DA_PIL', 'MOTION_DB_PIINV', 'MOTION_DC_LMINV', 'MOTION_DD_AVTRI', 'MOTION_DE_TMMD', 'MOTION_E0_WR0', 'MOTION_E1_WR1', 'MOTION_E2_WR2', 'MOTION_E3_WR3', 'MOTION_E4_WR4', 'MOTION_E5_WR5', 'MOTION_E6_WR6', 'MOTION_E7_WR7', 'MOTION_E8_RR0', 'MOTION_E9_RR1', 'MOTION_EA_RR2', 'MOTION_EB_RR3', 'MOTION_EC_RR4', 'MOTION_ED_RR5', 'MOTION_EE_RR6', 'MOTION_EF_RR7', 'MOTION_FC_I2CCHK', 'MOTION_FD_I2CRST', 'MOTION_FE_HDRST', 'MRDRPortNotAvaliable', 'Measurement', 'MerlinAxis', 'MerlinDrive', 'MotionAccelerationModeError', 'MotionAxis', 'MotionAxisError', 'MotionBreakPointModeError', 'MotionCaptureModeError', 'MotionCaptureTypeError', 'MotionCircularInterpolation', 'MotionDirectionError', 'MotionEnableError', 'MotionHelicalInterpolation', 'MotionInifile', 'MotionLinearInterpolation', 'MotionOperationModeError', 'MotionPolarityError', 'MotionPortNotAvaliable', 'MotionSearchDirectionError', 'MotionSearchTypeError', 'MotionStepperOutputError', 'MotionStopModeError', 'NUM_BCST_RETRIES', 'NUM_RETRIES', 'NetworkClient', 'NetworkConnectionError', 'NetworkConnectionLostError', 'NetworkDevice', 'NetworkModule', 'OPEN_CAN', 'ORVWarning', 'PACKET_TIMEOUT', 'PRODUCT_LIST', 'PWMChannelNotAvaliableError', 'PWMModule', 'PinsNotExistError', 'PinsValueNotDefineError', 'PloverAin', 'PloverAio', 'PloverCan', 'PloverDio', 'PloverRtd', 'PloverSink', 'PloverTc', 'QUEUE_SIZE_MAX', 'QUEUE_TIMEOUT', 'RETRY_TIMEOUT', 'ReceivePacketTimeoutError', 'RelayCounterIndexError', 'RelayModule', 'ReplyFormatError', 'SPIDataLengthExceedMaxError', 'SPIDataSizeNotVaildError', 'SPIFirstBitNotVaildError', 'SPIModeNotVaildError', 'SPIModule', 'SPIPortNotAvaliableError', 'SPIPrescalerNotVaildError', 'START_AI_STREAMING', 'START_AI_STREAMING_VARIABLE', 'START_AO_STREAMING', 'START_CAN', 'START_MOTION_MONITORING', 'START_UART_READING', 'STREAMING_CMD_LIST', 'StreamQueue', 'SystemAnalogModule', 'SystemModule', 'TCPClient', 'TCP_CMD_PORT', 'TCP_DATA_LENGTH_MAX', 'TCP_DATA_PORT', 'TCP_PKT_LENGTH_MAX', 'ThermalChipSelectNotAvaliableError', 'ThermalModeNotVaildError', 'ThermalModule', 'ThermalPortNotAvaliableError', 'ThermalResistanceModule', 'ThermalTypeNotVaildError', 'ThermocoupleModule', 'Trellis', 'TrellisLite', 'TrellisPortNotAvaliableError', 'UARTBaudRateNotSupportError', 'UARTDataBitNotSupportError', 'UARTExceedMaxLengthError', 'UARTModule', 'UARTParityNotSupportError', 'UARTPortNotAvaliableError', 'UARTQueueOverflowWarning', 'UARTStopBitNotSupportError', 'UDPClient', 'UDP_PKT_LENGTH_MAX', 'UDP_RECV_PORT', 'UDP_SEND_PORT', 'USBClient', 'USBConnectionError', 'USBDevice', 'USB_61E_PLUS_PID', 'USB_61E_PLUS_VID', 'USB_61E_RECEIVE_BYTE', 'USB_61E_RECEIVE_TIMEOUT', 'USB_61E_RECEIVE_TOTAL_BYTES', 'USB_EP_IN', 'USB_EP_OUT', 'USB_PID', 'USB_PKT_SIZE', 'USB_VID', 'WifiDevice', 'WifiModule', 'adjustDataList', 'changeToTrellisPort', 'checkEachItemInRange', 'checkFirmwareError', 'checkFuncPinMap', 'checkInputType', 'checkInputTypeConsistent', 'checkPinMap', 'clearBit', 'coerce', 'convert2U8ToI16', 'convert2U8ToU16', 'convert4U8ToF32', 'convert4U8ToI32', 'convert4U8ToU32', 'convert8U8ToF64', 'convert8U8ToI64', 'convert8U8ToU64', 'convertF32To4U8', 'convertF64To8U8', 'convertI16To2U8', 'convertI32To4U8', 'convertI64To8U8', 'convertIPAddrTo4U8', 'convertIndexAndBinaryListsToInt', 'convertIndexListToInt', 'convertIntToBinaryList', 'convertIntToIndexList', 'convertMACAddrTo6U8', 'convertStrToU8List', 'convertU16To2U8', 'convertU32To4U8', 'convertU64To8U8', 'convertU8ListToStr', 'errAHRSMode', 'errAHRSPort', 'errAIChannel', 'errAIChip', 'errAIMode', 'errAIPort', 'errAIRate', 'errAOChannel', 'errAOForm', 'errAOMode', 'errAOPort', 'errAORate', 'errAOSpan', 'errAPINotSupport', 'errCANDataLength', 'errCANPort', 'errCANSpeed', 'errCANTX', 'errCANTXPriority', 'errCounterchannel', 'errDIPort', 'errDOPort', 'errDPOTChannel', 'errDPOTPort', 'errDeviceClosed', 'errFirmwareAI', 'errFirmwareAO', 'errFirmwareBootloader', 'errFirmwareCAN', 'errFirmwareCore', 'errFirmwareDIO', 'errFirmwareDrive', 'errFirmwareEEPROM', 'errFirmwareEnable', 'errFirmwareEncoder', 'errFirmwareHALIndex', 'errFirmwareI2C', 'errFirmwareMotion', 'errFirmwareOLED', 'errFirmwareORVIndex', 'errFirmwareOther', 'errFirmwarePWM', 'errFirmwareParser', 'errFirmwarePinIndex', 'errFirmwarePulse', 'errFirmwareRTC', 'errFirmwareRelay', 'errFirmwareSPI', 'errFirmwareTCP', 'errFirmwareTIM', 'errFirmwareThermal', 'errFirmwareUART', 'errFirmwareUDP', 'errFirmwareUSB', 'errI2CAddressSize', 'errI2CClock', 'errI2CPort', 'errIniFileName', 'errIniFileNotFound', 'errInputDataNotInRange', 'errInputTypeNotConsistent', 'errInputTypeNotCorrect', 'errLinkNotOpen', 'errMotionAccelerationMode', 'errMotionAxis', 'errMotionBreakPoint', 'errMotionCaptureMode', 'errMotionCaptureType', 'errMotionDirection', 'errMotionEnable', 'errMotionOperationMode', 'errMotionPolarity', 'errMotionPort', 'errMotionSearchDirection', 'errMotionSearchType', 'errMotionStepperOutput', 'errMotionStopMode', 'errNetConnection', 'errNetConnectionLost', 'errPWMchannel', 'errPacketTimeout', 'errPinsNotExist', 'errPinsValueNotDefine', 'errRelayIndex', 'errReplyFormat', 'errSPIDataLengthExceedMax', 'errSPIDataSize', 'errSPIFirstBit', 'errSPIMode', 'errSPIPort', 'errSPIPrescaler', 'errThermalChipSelect', 'errThermalMode', 'errThermalPort', 'errThermalType', 'errTrellisSlot', 'errUARTBaudRate', 'errUARTDataBit', 'errUARTExceedMaxLength', 'errUARTParity', 'errUARTPort', 'errUARTStopBit', 'errUSBConnection', 'fillBit', 'printGenericError', 'readBit', 'warnAHRSOverflow', 'warnAIOverflow', 'warnCANOverflow', 'warnLibNotFound', 'warnUARTOverflow', 'writeBit']
+__all__: list[str] = ['AHRSModeNotAvaliableError', 'AHRSModule', 'AHRSPortNotAvaliableError', 'AHRSQueueOverflowWarning', 'AHRS_START', 'AI24BitModule', 'AICSNotAvaliableError', 'AIChannelNotAvaliableError', 'AIModeNotAvaliableError', 'AIModule', 'AIPortNotAvaliableError', 'AIQueueOverflowWarning', 'AIRateNotVaildError', 'AOChannelNotAvaliableError', 'AOFormNotAvaliableError', 'AOModeNotVaildError', 'AOModule', 'AOPortNotAvaliableError', 'AORateNotVaildError', 'AOSpanNotVaildError', 'APINotSupportError', 'BROADCAST_CMD_LIST', 'BroadcastDevice', 'BroadcastModule', 'CANDataLengthNotVaildError', 'CANFrame', 'CANModule', 'CANPortNotAvaliableError', 'CANQueueOverflowWarning', 'CANSpeedNotVaildError', 'CANTXNotVaildError', 'CANTXPriorityNotVaildError', 'CHECK_CALCULATUON', 'CHECK_MAC_AND_REBOOT', 'CHECK_MAC_AND_SET_IP', 'CMD_CR', 'CMD_CR_2', 'CMD_INDEX', 'CMD_INDEX_2', 'CMD_LF', 'CMD_LF_2', 'CMD_STX', 'CMD_STX_2', 'CONNECTION_TIMEOUT', 'Client', 'CounterChannelNotAvaliableError', 'CounterModule', 'DIOModule', 'DIPortNotAvaliableError', 'DOPortNotAvaliableError', 'DPOTChannelNotAvaliableError', 'DPOTModule', 'DPOTPortNotAvaliableError', 'DataLogger', 'Device', 'DeviceClosedError', 'DeviceFinder', 'ECHO_DELAY', 'ETHDevice', 'Error', 'ExtLibNotFoundWarning', 'FirmwareAIError', 'FirmwareAOError', 'FirmwareBootloaderError', 'FirmwareCANError', 'FirmwareCoreError', 'FirmwareDIOError', 'FirmwareDriveError', 'FirmwareEEPROMError', 'FirmwareEnableError', 'FirmwareEncoderError', 'FirmwareHALIndexError', 'FirmwareI2CError', 'FirmwareMotionError', 'FirmwareOLEDError', 'FirmwareORVIndexError', 'FirmwareOtherError', 'FirmwarePWMError', 'FirmwareParserError', 'FirmwarePinIndexError', 'FirmwarePulseError', 'FirmwareRTCError', 'FirmwareRelayError', 'FirmwareSPIError', 'FirmwareTCPError', 'FirmwareTIMError', 'FirmwareThermalError', 'FirmwareUARTError', 'FirmwareUDPError', 'FirmwareUSBError', 'GET_DEVICE_INFO', 'GET_DRIVER_INFO', 'HANDLE_DICT', 'HANDLE_LIST', 'HeronAin', 'HeronAinImu', 'HeronAinPlus', 'I2CAddressSizeNotVaildError', 'I2CClockNotSupportError', 'I2CModule', 'I2CPortNotAvaliableError', 'IniFileExtensionNameError', 'IniFileNotFoundError', 'InputDataNotInRangeError', 'InputTypeNotConsistentError', 'InputTypeNotCorrectError', 'KestrelAin', 'KestrelAout', 'KestrelCin', 'KestrelCvin', 'KestrelDio', 'KestrelDioX', 'KestrelRelay', 'KestrelRes', 'KestrelTherm', 'LABEL_DICT', 'LinkNotOpenError', 'MCX514Driver', 'MCX514Module', 'MOTION', 'MOTION_00_JK', 'MOTION_01_DJ', 'MOTION_02_AC', 'MOTION_03_DC', 'MOTION_04_SV', 'MOTION_05_DV', 'MOTION_06_TP', 'MOTION_07_DP', 'MOTION_08_CP', 'MOTION_09_LP', 'MOTION_0A_RP', 'MOTION_0B_SP', 'MOTION_0C_SM', 'MOTION_0D_AO', 'MOTION_0E_LX', 'MOTION_0F_RX', 'MOTION_10_MR0', 'MOTION_11_MR1', 'MOTION_12_MR2', 'MOTION_13_MR3', 'MOTION_14_HV', 'MOTION_15_IV', 'MOTION_16_TM', 'MOTION_17_SP1', 'MOTION_18_SP2', 'MOTION_19_TX', 'MOTION_1A_HLN', 'MOTION_1B_HLV', 'MOTION_1C_GPIO', 'MOTION_1F_NOP', 'MOTION_20_MRM', 'MOTION_21_P1M', 'MOTION_22_P2M', 'MOTION_23_H1M', 'MOTION_24_H2M', 'MOTION_25_FLM', 'MOTION_26_S0M', 'MOTION_27_S1M', 'MOTION_28_S2M', 'MOTION_29_S3M', 'MOTION_2A_IPM', 'MOTION_30_LP', 'MOTION_31_RP', 'MOTION_32_CV', 'MOTION_33_CA', 'MOTION_34_MR0', 'MOTION_35_MR1', 'MOTION_36_MR2', 'MOTION_37_MR3', 'MOTION_38_CT', 'MOTION_39_TX', 'MOTION_3A_CHLN', 'MOTION_3B_HLV', 'MOTION_3D_WR1', 'MOTION_3E_WR2', 'MOTION_3F_WR3', 'MOTION_40_MRM', 'MOTION_41_P1M', 'MOTION_42_P2M', 'MOTION_43_AC', 'MOTION_44_SV', 'MOTION_45_DV', 'MOTION_46_TP', 'MOTION_47_SP1', 'MOTION_48_UI', 'MOTION_50_DRVRL', 'MOTION_51_DRVNR', 'MOTION_52_DRVVP', 'MOTION_53_DRVVM', 'MOTION_54_DRVAB', 'MOTION_56_DRVSBRK', 'MOTION_57_DRVFBRK', 'MOTION_58_DIRCP', 'MOTION_59_DIRCM', 'MOTION_5A_HMSRC', 'MOTION_60_LHK1', 'MOTION_61_LHK2', 'MOTION_62_LHK3', 'MOTION_63_LHK4', 'MOTION_64_CHKCW', 'MOTION_65_CHKCCW', 'MOTION_66_BHK2', 'MOTION_67_BHK3', 'MOTION_68_BHK4', 'MOTION_69_HLCW', 'MOTION_6A_HLCCW', 'MOTION_6B_HLPCW', 'MOTION_6C_HLPCCW', 'MOTION_6D_DECEN', 'MOTION_6E_DECDIS', 'MOTION_6F_CLRSTEP', 'MOTION_70_VINC', 'MOTION_71_VDEC', 'MOTION_72_DCC', 'MOTION_73_TMSTA', 'MOTION_74_TMSTP', 'MOTION_75_SPSTA', 'MOTION_76_SPSTP', 'MOTION_77_DHOLD', 'MOTION_78_DFREE', 'MOTION_79_R2CLR', 'MOTION_7A_RR3P0', 'MOTION_7B_RR3P1', 'MOTION_7C_MFPC', 'MOTION_81_SYNC0EN', 'MOTION_82_SYNC1EN', 'MOTION_83_SYNC01EN', 'MOTION_84_SYNC2EN', 'MOTION_85_SYNC02EN', 'MOTION_86_SYNC12EN', 'MOTION_87_SYNC012EN', 'MOTION_88_SYNC3EN', 'MOTION_89_SYNC03EN', 'MOTION_8A_SYNC13EN', 'MOTION_8B_SYNC013EN', 'MOTION_8C_SYNC23EN', 'MOTION_8D_SYNC023EN', 'MOTION_8E_SYNC123EN', 'MOTION_8F_SYNC0123EN', 'MOTION_91_SYNC0DIS', 'MOTION_92_SYNC1DIS', 'MOTION_93_SYNC01DIS', 'MOTION_94_SYNC2DIS', 'MOTION_95_SYNC02DIS', 'MOTION_96_SYNC12DIS', 'MOTION_97_SYNC012DIS', 'MOTION_98_SYNC3DIS', 'MOTION_99_SYNC03DIS', 'MOTION_9A_SYNC13DIS', 'MOTION_9B_SYNC013DIS', 'MOTION_9C_SYNC23DIS', 'MOTION_9D_SYNC023DIS', 'MOTION_9E_SYNC123DIS', 'MOTION_9F_SYNC0123DIS', 'MOTION_A1_SYNC0ACT', 'MOTION_A2_SYNC1ACT', 'MOTION_A3_SYNC01ACT', 'MOTION_A4_SYNC2ACT', 'MOTION_A5_SYNC02ACT', 'MOTION_A6_SYNC12ACT', 'MOTION_A7_SYNC012ACT', 'MOTION_A8_SYNC3ACT', 'MOTION_A9_SYNC03ACT', 'MOTION_AA_SYNC13ACT', 'MOTION_AB_SYNC013ACT', 'MOTION_AC_SYNC23ACT', 'MOTION_AD_SYNC023ACT', 'MOTION_AE_SYNC123ACT', 'MOTION_AF_SYNC0123ACT', 'MOTION_C0_SP0L', 'MOTION_C1_SP0E', 'MOTION_C2_SP1L', 'MOTION_C3_SP1E', 'MOTION_C4_SP2L', 'MOTION_C5_SP2E', 'MOTION_C6_INPL', 'MOTION_C7_INPE', 'MOTION_C8_ALML', 'MOTION_C9_ALME', 'MOTION_CA_HLML', 'MOTION_CB_HLME', 'MOTION_CC_HLMM', 'MOTION_CD_SLME', 'MOTION_CE_SLMO', 'MOTION_CF_SLMM', 'MOTION_D0_MANLD', 'MOTION_D1_DSNDE', 'MOTION_D2_SACC', 'MOTION_D3_DPMD0', 'MOTION_D4_DPMD1', 'MOTION_D5_DPL', 'MOTION_D6_DIRL', 'MOTION_D7_DPINV', 'MOTION_D8_PIMD0', 'MOTION_D9_PIMD1', 'MOTION_DA_PIL', 'MOTION_DB_PIINV', 'MOTION_DC_LMINV', 'MOTION_DD_AVTRI', 'MOTION_DE_TMMD', 'MOTION_E0_WR0', 'MOTION_E1_WR1', 'MOTION_E2_WR2', 'MOTION_E3_WR3', 'MOTION_E4_WR4', 'MOTION_E5_WR5', 'MOTION_E6_WR6', 'MOTION_E7_WR7', 'MOTION_E8_RR0', 'MOTION_E9_RR1', 'MOTION_EA_RR2', 'MOTION_EB_RR3', 'MOTION_EC_RR4', 'MOTION_ED_RR5', 'MOTION_EE_RR6', 'MOTION_EF_RR7', 'MOTION_FC_I2CCHK', 'MOTION_FD_I2CRST', 'MOTION_FE_HDRST', 'MOTION_GET_PARAM', 'MOTION_GET_PROC_STATE', 'MOTION_LOAD_PARAM', 'MOTION_READ_REG', 'MOTION_RESET_FACTORY', 'MOTION_SAVE_PARAM', 'MOTION_SET_PARAM', 'MOTION_START_FIND_END', 'MOTION_START_FIND_HOME', 'MOTION_START_FIND_Z', 'MOTION_START_P_MOVE', 'MOTION_START_SCAN_MOVE', 'MOTION_START_V_MOVE', 'MOTION_STOP_PROC', 'MOTION_WRITE_REG', 'MRDRPortNotAvaliable', 'MRDR_00_GCONF', 'MRDR_01_GSTAT', 'MRDR_02_IFCNT', 'MRDR_03_SLAVECONF', 'MRDR_04_INP_OUT', 'MRDR_05_X_COMPARE', 'MRDR_06_OTP_PROG', 'MRDR_0A_DRV_CONF', 'MRDR_0B_GLOBAL_SCALER', 'MRDR_10_IHOLD_IRUN', 'MRDR_11_TPOWERDOWN', 'MRDR_12_TSTEP', 'MRDR_13_TPWMTHRS', 'MRDR_14_TCOOLTHRS', 'MRDR_15_THIGH', 'MRDR_20_RAMPMODE', 'MRDR_21_XACTUAL', 'MRDR_22_VACTUAL', 'MRDR_23_VSTART', 'MRDR_24_A1', 'MRDR_25_V1', 'MRDR_26_AMAX', 'MRDR_27_VMAX', 'MRDR_28_DMAX', 'MRDR_29_TVMAX', 'MRDR_2A_D1', 'MRDR_2B_VSTOP', 'MRDR_2C_TZEROWAIT', 'MRDR_2D_XTARGET', 'MRDR_2F_A2', 'MRDR_30_D2', 'MRDR_31_AACTUAL', 'MRDR_33_VDCMIN', 'MRDR_34_SWMODE', 'MRDR_35_RAMPSTAT', 'MRDR_36_XLATCH', 'MRDR_38_ENCMODE', 'MRDR_39_XENC', 'MRDR_3A_ENC_CONST', 'MRDR_3B_ENC_STATUS', 'MRDR_3C_ENC_LATCH', 'MRDR_3D_ENC_DEVIATION', 'MRDR_50_ADC_VSUPPLY_AIN', 'MRDR_51_ADC_TEMP', 'MRDR_52_OTW_OV_VTH', 'MRDR_60_MSLUT0', 'MRDR_61_MSLUT1', 'MRDR_62_MSLUT2', 'MRDR_63_MSLUT3', 'MRDR_64_MSLUT4', 'MRDR_65_MSLUT5', 'MRDR_66_MSLUT6', 'MRDR_67_MSLUT7', 'MRDR_68_MSLUTSEL', 'MRDR_69_MSLUTSTART', 'MRDR_6A_MSCNT', 'MRDR_6B_MSCURACT', 'MRDR_6C_CHOPCONF', 'MRDR_6D_COOLCONF', 'MRDR_6E_DCCTRL', 'MRDR_6F_DRVSTATUS', 'MRDR_70_PWMCONF', 'MRDR_71_PWMSCALE', 'MRDR_72_PWM_AUTO', 'MRDR_74_SG4_THRS', 'MRDR_75_SG4_RESULT', 'MRDR_76_SG4_IND', 'Measurement', 'MerlinAxis', 'MerlinDrive', 'MotionAccelerationModeError', 'MotionAxis', 'MotionAxisError', 'MotionBreakPointModeError', 'MotionCaptureModeError', 'MotionCaptureTypeError', 'MotionCircularInterpolation', 'MotionDirectionError', 'MotionEnableError', 'MotionHelicalInterpolation', 'MotionInifile', 'MotionLinearInterpolation', 'MotionOperationModeError', 'MotionPolarityError', 'MotionPortNotAvaliable', 'MotionSearchDirectionError', 'MotionSearchTypeError', 'MotionStepperOutputError', 'MotionStopModeError', 'NUM_BCST_RETRIES', 'NUM_RETRIES', 'NetworkClient', 'NetworkConnectionError', 'NetworkConnectionLostError', 'NetworkDevice', 'NetworkModule', 'OPEN_CAN', 'ORVWarning', 'PACKET_TIMEOUT', 'PRODUCT_LIST', 'PWMChannelNotAvaliableError', 'PWMModule', 'PinsNotExistError', 'PinsValueNotDefineError', 'PloverAin', 'PloverAio', 'PloverCan', 'PloverDio', 'PloverRtd', 'PloverSink', 'PloverTc', 'QUEUE_SIZE_MAX', 'QUEUE_TIMEOUT', 'RETRY_TIMEOUT', 'ReceivePacketTimeoutError', 'RelayCounterIndexError', 'RelayModule', 'ReplyFormatError', 'SPIDataLengthExceedMaxError', 'SPIDataSizeNotVaildError', 'SPIFirstBitNotVaildError', 'SPIModeNotVaildError', 'SPIModule', 'SPIPortNotAvaliableError', 'SPIPrescalerNotVaildError', 'START_AI_STREAMING', 'START_AI_STREAMING_VARIABLE', 'START_AO_STREAMING', 'START_CAN', 'START_MOTION_MONITORING', 'START_UART_READING', 'STREAMING_CMD_LIST', 'StreamQueue', 'SystemAnalogModule', 'SystemModule', 'TCPClient', 'TCP_CMD_PORT', 'TCP_DATA_LENGTH_MAX', 'TCP_DATA_PORT', 'TCP_PKT_LENGTH_MAX', 'TMC5240Module', 'TMC5240RegisterValue', 'ThermalChipSelectNotAvaliableError', 'ThermalModeNotVaildError', 'ThermalModule', 'ThermalPortNotAvaliableError', 'ThermalResistanceModule', 'ThermalTypeNotVaildError', 'ThermocoupleModule', 'Trellis', 'TrellisLite', 'TrellisPortNotAvaliableError', 'UARTBaudRateNotSupportError', 'UARTDataBitNotSupportError', 'UARTExceedMaxLengthError', 'UARTModule', 'UARTParityNotSupportError', 'UARTPortNotAvaliableError', 'UARTQueueOverflowWarning', 'UARTStopBitNotSupportError', 'UDPClient', 'UDP_PKT_LENGTH_MAX', 'UDP_RECV_PORT', 'UDP_SEND_PORT', 'USBClient', 'USBConnectionError', 'USBDevice', 'USB_61E_PLUS_PID', 'USB_61E_PLUS_VID', 'USB_61E_RECEIVE_BYTE', 'USB_61E_RECEIVE_TIMEOUT', 'USB_61E_RECEIVE_TOTAL_BYTES', 'USB_EP_IN', 'USB_EP_OUT', 'USB_PID', 'USB_PKT_SIZE', 'USB_VID', 'WifiDevice', 'WifiModule', 'adjustDataList', 'changeToTrellisPort', 'checkEachItemInRange', 'checkFirmwareError', 'checkFuncPinMap', 'checkInputType', 'checkInputTypeConsistent', 'checkPinMap', 'clearBit', 'coerce', 'convert2U8ToI16', 'convert2U8ToU16', 'convert4U8ToF32', 'convert4U8ToI32', 'convert4U8ToU32', 'convert8U8ToF64', 'convert8U8ToI64', 'convert8U8ToU64', 'convertF32To4U8', 'convertF64To8U8', 'convertI16To2U8', 'convertI32To4U8', 'convertI64To8U8', 'convertIPAddrTo4U8', 'convertIndexAndBinaryListsToInt', 'convertIndexListToInt', 'convertIntToBinaryList', 'convertIntToIndexList', 'convertMACAddrTo6U8', 'convertStrToU8List', 'convertU16To2U8', 'convertU32To4U8', 'convertU64To8U8', 'convertU8ListToStr', 'errAHRSMode', 'errAHRSPort', 'errAIChannel', 'errAIChip', 'errAIMode', 'errAIPort', 'errAIRate', 'errAOChannel', 'errAOForm', 'errAOMode', 'errAOPort', 'errAORate', 'errAOSpan', 'errAPINotSupport', 'errCANDataLength', 'errCANPort', 'errCANSpeed', 'errCANTX', 'errCANTXPriority', 'errCounterchannel', 'errDIPort', 'errDOPort', 'errDPOTChannel', 'errDPOTPort', 'errDeviceClosed', 'errFirmwareAI', 'errFirmwareAO', 'errFirmwareBootloader', 'errFirmwareCAN', 'errFirmwareCore', 'errFirmwareDIO', 'errFirmwareDrive', 'errFirmwareEEPROM', 'errFirmwareEnable', 'errFirmwareEncoder', 'errFirmwareHALIndex', 'errFirmwareI2C', 'errFirmwareMotion', 'errFirmwareOLED', 'errFirmwareORVIndex', 'errFirmwareOther', 'errFirmwarePWM', 'errFirmwareParser', 'errFirmwarePinIndex', 'errFirmwarePulse', 'errFirmwareRTC', 'errFirmwareRelay', 'errFirmwareSPI', 'errFirmwareTCP', 'errFirmwareTIM', 'errFirmwareThermal', 'errFirmwareUART', 'errFirmwareUDP', 'errFirmwareUSB', 'errI2CAddressSize', 'errI2CClock', 'errI2CPort', 'errIniFileName', 'errIniFileNotFound', 'errInputDataNotInRange', 'errInputTypeNotConsistent', 'errInputTypeNotCorrect', 'errLinkNotOpen', 'errMotionAccelerationMode', 'errMotionAxis', 'errMotionBreakPoint', 'errMotionCaptureMode', 'errMotionCaptureType', 'errMotionDirection', 'errMotionEnable', 'errMotionOperationMode', 'errMotionPolarity', 'errMotionPort', 'errMotionSearchDirection', 'errMotionSearchType', 'errMotionStepperOutput', 'errMotionStopMode', 'errNetConnection', 'errNetConnectionLost', 'errPWMchannel', 'errPacketTimeout', 'errPinsNotExist', 'errPinsValueNotDefine', 'errRelayIndex', 'errReplyFormat', 'errSPIDataLengthExceedMax', 'errSPIDataSize', 'errSPIFirstBit', 'errSPIMode', 'errSPIPort', 'errSPIPrescaler', 'errThermalChipSelect', 'errThermalMode', 'errThermalPort', 'errThermalType', 'errTrellisSlot', 'errUARTBaudRate', 'errUARTDataBit', 'errUARTExceedMaxLength', 'errUARTParity', 'errUARTPort', 'errUARTStopBit', 'errUSBConnection', 'fillBit', 'printGenericError', 'readBit', 'warnAHRSOverflow', 'warnAIOverflow', 'warnCANOverflow', 'warnLibNotFound', 'warnUARTOverflow', 'writeBit']
 class Error(Exception):
     """
     The driver's errors: each class has its fixed code and default message.
@@ -16750,6 +16750,1728 @@ class SystemModule:
     @property
     def thread_info(self) -> str:
         ...
+class TMC5240RegisterValue:
+    """
+    A TMC5240 register read: the raw word and its fields decoded by the register catalogue.
+    """
+    def __repr__(self) -> str:
+        ...
+    @property
+    def address(self) -> int:
+        """
+        The register address.
+        """
+    @property
+    def fields(self) -> dict:
+        """
+        Field name -> value, from bit 0 up; signed fields in two's complement.
+        """
+    @property
+    def name(self) -> str:
+        """
+        The register's MRDR_ constant name.
+        """
+    @property
+    def word(self) -> int:
+        """
+        The 32-bit word read, unsigned.
+        """
+class TMC5240Module:
+    """
+    The stepper drive's TMC5240 axis: register access, the parameter block, configuration, and moves and searches that the firmware runs as processes.
+    """
+    TMC5240_axis: typing.ClassVar[int] = 0
+    def Motion_cfgAxisDirection(self, port: int, axis_dir: int, timeout: float = 3) -> int:
+        """
+        Bit 4 of GCONF (shaft) and of SWMODE (swap_lr) to axis_dir XOR 1.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            axis_dir (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0
+        
+        Raises, before anything is sent:
+            (port as usual)
+            TypeError: axis_dir is not an int.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_cfgAxisDirection_async(self, port: int, axis_dir: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_cfgAxisDirection, without timeout: Bit 4 of GCONF (shaft) and of SWMODE (swap_lr) to axis_dir XOR 1.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            axis_dir (int): 0 or 1
+        
+        Returns:
+            int: the greatest status of the steps, from 0
+        
+        Raises, before anything is sent:
+            (port as usual)
+            TypeError: axis_dir is not an int.
+        """
+    def Motion_cfgEncoder(self, port: int, encoder_dir: int, encoder_posi: int, timeout: float = 3) -> int:
+        """
+        XACTUAL and XENC to the position, ENC_CONST 1 (encoder_dir 0) or -1.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            encoder_dir (int): 0 or 1
+            encoder_posi (int): steps
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_cfgEncoder_async(self, port: int, encoder_dir: int, encoder_posi: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_cfgEncoder, without timeout: XACTUAL and XENC to the position, ENC_CONST 1 (encoder_dir 0) or -1.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            encoder_dir (int): 0 or 1
+            encoder_posi (int): steps
+        
+        Returns:
+            int: the greatest status of the steps, from 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def Motion_cfgLimit(self, port: int, en_forward: int, en_reverse: int, limit_polarity: int, timeout: float = 3) -> int:
+        """
+        Stores the limit settings, then writes SWMODE's low byte (enables and polarities); its upper half is cleared.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            en_forward (int): 1 enables
+            en_reverse (int): 1 enables
+            limit_polarity (int): 0 active low, 1 active high
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_cfgLimit_async(self, port: int, en_forward: int, en_reverse: int, limit_polarity: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_cfgLimit, without timeout: Stores the limit settings, then writes SWMODE's low byte (enables and polarities); its upper half is cleared.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            en_forward (int): 1 enables
+            en_reverse (int): 1 enables
+            limit_polarity (int): 0 active low, 1 active high
+        
+        Returns:
+            int: the greatest status of the steps, from 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def Motion_close(self, port: int, timeout: float = 3) -> int:
+        """
+        Checks the port; nothing is sent.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_close_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_close, without timeout: Checks the port; nothing is sent.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def Motion_enableServoOff(self, port: int, timeout: float = 3) -> int:
+        """
+        Digital port 2, pin 0 to 1.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_enableServoOff_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_enableServoOff, without timeout: Digital port 2, pin 0 to 1.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def Motion_enableServoOn(self, port: int, timeout: float = 3) -> int:
+        """
+        Digital port 2, pin 0 to 0.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_enableServoOn_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_enableServoOn, without timeout: Digital port 2, pin 0 to 0.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def Motion_getAlarmStatus(self, port: int, timeout: float = 3) -> int:
+        """
+        1 when GSTAT shows a driver error, a charge pump undervoltage or bit 12.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0 or 1
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_getAlarmStatus_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_getAlarmStatus, without timeout: 1 when GSTAT shows a driver error, a charge pump undervoltage or bit 12.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+        
+        Returns:
+            int: 0 or 1
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def Motion_getLimitStatus(self, port: int, timeout: float = 3) -> list[int]:
+        """
+        The limit and home inputs (READ_AND_GET_DI, mask 7).
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: [forward, reverse, home], each 0 or 1
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_getLimitStatus_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable Motion_getLimitStatus, without timeout: The limit and home inputs (READ_AND_GET_DI, mask 7).
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+        
+        Returns:
+            list[int]: [forward, reverse, home], each 0 or 1
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def Motion_getParameters(self, port: int, timeout: float = 3) -> int:
+        """
+        Reads the parameter block the drive uses into TMC5240_default_dict.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_getParameters_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_getParameters, without timeout: Reads the parameter block the drive uses into TMC5240_default_dict.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def Motion_getProcessState(self, port: int, timeout: float = 3) -> int:
+        """
+        The state of the drive's process (the firmware's number; the simulator answers 0 when idle).
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the process state byte
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_getProcessState_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_getProcessState, without timeout: The state of the drive's process (the firmware's number; the simulator answers 0 when idle).
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+        
+        Returns:
+            int: the process state byte
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def Motion_loadCfgFile(self, timeout: float = 3) -> int:
+        """
+        Reads the axis's settings from section Axis_1 and sends them to drive port 0.
+        
+        Args:
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            AttributeError: no file opened yet.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_loadCfgFile_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_loadCfgFile, without timeout: Reads the axis's settings from section Axis_1 and sends them to drive port 0.
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            AttributeError: no file opened yet.
+        """
+    def Motion_loadParameters(self, port: int, timeout: float = 3) -> int:
+        """
+        Loads the parameter block from the drive's EEPROM and reads it into TMC5240_default_dict.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_loadParameters_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_loadParameters, without timeout: Loads the parameter block from the drive's EEPROM and reads it into TMC5240_default_dict.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def Motion_open(self, port: int, timeout: float = 3) -> int:
+        """
+        Checks the port; nothing is sent.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_openCfgFile(self, filename: str = 'test.ini') -> int:
+        """
+        Chooses an existing .ini file for save and load.
+        
+        Args:
+            filename (str): an existing file ending in .ini (default 'test.ini')
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            IniFileNotFoundError: no such file.
+            IniFileExtensionNameError: the name does not end in .ini.
+        """
+    def Motion_openCfgFile_async(self, filename: str = 'test.ini') -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_openCfgFile, without timeout: Chooses an existing .ini file for save and load.
+        
+        Args:
+            filename (str): an existing file ending in .ini (default 'test.ini')
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            IniFileNotFoundError: no such file.
+            IniFileExtensionNameError: the name does not end in .ini.
+        """
+    def Motion_open_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_open, without timeout: Checks the port; nothing is sent.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def Motion_readCurrentVelocity(self, port: int, timeout: float = 3) -> int:
+        """
+        VACTUAL, decoded unsigned.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0..2**32-1
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_readCurrentVelocity_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_readCurrentVelocity, without timeout: VACTUAL, decoded unsigned.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+        
+        Returns:
+            int: 0..2**32-1
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def Motion_readEncoderPosition(self, port: int, timeout: float = 3) -> list[int]:
+        """
+        XENC and XACTUAL, both decoded unsigned (a negative position reads large).
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: [encoder position, logical position]
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_readEncoderPosition_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable Motion_readEncoderPosition, without timeout: XENC and XACTUAL, both decoded unsigned (a negative position reads large).
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+        
+        Returns:
+            list[int]: [encoder position, logical position]
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def Motion_readRegisterFields(self, port: int, reg_addr: int, timeout: float = 3) -> TMC5240RegisterValue:
+        """
+        Reads a register and decodes its named fields from the register catalogue: r = Motion_readRegisterFields(0, MRDR_6C_CHOPCONF); r.word, r.fields['toff'].
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            reg_addr (int): register address, an MRDR_ constant
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            TMC5240RegisterValue: the raw word and the fields (name -> value)
+        
+        Raises, before anything is sent:
+            (port as usual)
+            InputTypeNotCorrectError: reg_addr is not an int.
+            InputDataNotInRangeError: no register at reg_addr, or a write-only one.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_readRegisterFields_async(self, port: int, reg_addr: int) -> collections.abc.Coroutine[typing.Any, typing.Any, TMC5240RegisterValue]:
+        """
+        Awaitable Motion_readRegisterFields, without timeout: Reads a register and decodes its named fields from the register catalogue: r = Motion_readRegisterFields(0, MRDR_6C_CHOPCONF); r.word, r.fields['toff'].
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            reg_addr (int): register address, an MRDR_ constant
+        
+        Returns:
+            TMC5240RegisterValue: the raw word and the fields (name -> value)
+        
+        Raises, before anything is sent:
+            (port as usual)
+            InputTypeNotCorrectError: reg_addr is not an int.
+            InputDataNotInRangeError: no register at reg_addr, or a write-only one.
+        """
+    def Motion_resetFactory(self, port: int, timeout: float = 3) -> int:
+        """
+        Restores the factory parameter block.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_resetFactory_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_resetFactory, without timeout: Restores the factory parameter block.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def Motion_rstEncoderPosi(self, port: int, encoder_posi: int = 0, timeout: float = 3) -> int:
+        """
+        Hold mode (RAMPMODE 3), then XACTUAL and XENC to the position.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            encoder_posi (int): steps (default 0)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_rstEncoderPosi_async(self, port: int, encoder_posi: int = 0) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_rstEncoderPosi, without timeout: Hold mode (RAMPMODE 3), then XACTUAL and XENC to the position.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            encoder_posi (int): steps (default 0)
+        
+        Returns:
+            int: the greatest status of the steps, from 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def Motion_saveCfgFile(self) -> int:
+        """
+        Writes the axis's settings to the file, section Axis_1.
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            AttributeError: no file opened yet.
+        """
+    def Motion_saveCfgFile_async(self) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_saveCfgFile, without timeout: Writes the axis's settings to the file, section Axis_1.
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            AttributeError: no file opened yet.
+        """
+    def Motion_saveParameters(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends TMC5240_default_dict for the drive to store in its EEPROM.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_saveParameters_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_saveParameters, without timeout: Sends TMC5240_default_dict for the drive to store in its EEPROM.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def Motion_setParameters(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends TMC5240_default_dict (88 bytes, 22 values) for the drive to use.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_setParameters_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_setParameters, without timeout: Sends TMC5240_default_dict (88 bytes, 22 values) for the drive to use.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def Motion_startFindHome(self, port: int, searching_speed: int, approaching_speed: int, acceleration: int, search_direction: int, approach_direction: int, offset: int, reset_position: typing.Any, timeout: float = 3) -> int:
+        """
+        Starts a home search (MOTION_START_FIND_HOME).
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            searching_speed (int): steps/s, u32
+            approaching_speed (int): steps/s, u32
+            acceleration (int): steps/s2, u32
+            search_direction (int): 1 forward, -1 reverse (i8)
+            approach_direction (int): 1 forward, -1 reverse (i8)
+            offset (int): steps, i32
+            reset_position (object): 1 is sent only for the exact text "true"; anything else (True included) sends 0
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port, or a type-checked speed or acceleration, is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            TypeError: a field that is not an integer.
+            ValueError: a field outside its width (u32, i32, i8).
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_startFindHome_async(self, port: int, searching_speed: int, approaching_speed: int, acceleration: int, search_direction: int, approach_direction: int, offset: int, reset_position: typing.Any) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_startFindHome, without timeout: Starts a home search (MOTION_START_FIND_HOME).
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            searching_speed (int): steps/s, u32
+            approaching_speed (int): steps/s, u32
+            acceleration (int): steps/s2, u32
+            search_direction (int): 1 forward, -1 reverse (i8)
+            approach_direction (int): 1 forward, -1 reverse (i8)
+            offset (int): steps, i32
+            reset_position (object): 1 is sent only for the exact text "true"; anything else (True included) sends 0
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port, or a type-checked speed or acceleration, is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            TypeError: a field that is not an integer.
+            ValueError: a field outside its width (u32, i32, i8).
+        """
+    def Motion_startFindLimit(self, port: int, mode: int, searching_speed: int, approaching_speed: int, acceleration: int, offset: int, reset_position: typing.Any, timeout: float = 3) -> int:
+        """
+        Starts a limit search (MOTION_START_FIND_END); the direction byte comes first.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            mode (int): 1 forward, -1 reverse (i8)
+            searching_speed (int): steps/s, u32
+            approaching_speed (int): steps/s, u32
+            acceleration (int): steps/s2, u32
+            offset (int): steps, i32
+            reset_position (object): 1 is sent only for the exact text "true"; anything else (True included) sends 0
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port, or a type-checked speed or acceleration, is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            TypeError: a field that is not an integer.
+            ValueError: a field outside its width (u32, i32, i8).
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_startFindLimit_async(self, port: int, mode: int, searching_speed: int, approaching_speed: int, acceleration: int, offset: int, reset_position: typing.Any) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_startFindLimit, without timeout: Starts a limit search (MOTION_START_FIND_END); the direction byte comes first.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            mode (int): 1 forward, -1 reverse (i8)
+            searching_speed (int): steps/s, u32
+            approaching_speed (int): steps/s, u32
+            acceleration (int): steps/s2, u32
+            offset (int): steps, i32
+            reset_position (object): 1 is sent only for the exact text "true"; anything else (True included) sends 0
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port, or a type-checked speed or acceleration, is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            TypeError: a field that is not an integer.
+            ValueError: a field outside its width (u32, i32, i8).
+        """
+    def Motion_startFindZPolarity(self, port: int, searching_speed: int, approaching_speed: int, acceleration: int, search_direction: int, approach_direction: int, offset: int, reset_position: typing.Any, timeout: float = 3) -> int:
+        """
+        Starts an encoder index (Z) search (MOTION_START_FIND_Z).
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            searching_speed (int): steps/s, u32
+            approaching_speed (int): steps/s, u32
+            acceleration (int): steps/s2, u32
+            search_direction (int): 1 forward, -1 reverse (i8)
+            approach_direction (int): 1 forward, -1 reverse (i8)
+            offset (int): steps, i32
+            reset_position (object): 1 is sent only for the exact text "true"; anything else (True included) sends 0
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port, or a type-checked speed or acceleration, is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            TypeError: a field that is not an integer.
+            ValueError: a field outside its width (u32, i32, i8).
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_startFindZPolarity_async(self, port: int, searching_speed: int, approaching_speed: int, acceleration: int, search_direction: int, approach_direction: int, offset: int, reset_position: typing.Any) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_startFindZPolarity, without timeout: Starts an encoder index (Z) search (MOTION_START_FIND_Z).
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            searching_speed (int): steps/s, u32
+            approaching_speed (int): steps/s, u32
+            acceleration (int): steps/s2, u32
+            search_direction (int): 1 forward, -1 reverse (i8)
+            approach_direction (int): 1 forward, -1 reverse (i8)
+            offset (int): steps, i32
+            reset_position (object): 1 is sent only for the exact text "true"; anything else (True included) sends 0
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port, or a type-checked speed or acceleration, is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            TypeError: a field that is not an integer.
+            ValueError: a field outside its width (u32, i32, i8).
+        """
+    def Motion_startPositionMove(self, port: int, position: int, speed: int, acceleration: int, deceleration: int, mode: int, timeout: float = 3) -> int:
+        """
+        Starts a move to a position (MOTION_START_P_MOVE).
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            position (int): steps, i32
+            speed (int): steps/s, u32
+            acceleration (int): steps/s2, u32
+            deceleration (int): steps/s2, u32
+            mode (int): 0 absolute, 1 relative (i8)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port, or a type-checked speed or acceleration, is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            TypeError: a field that is not an integer.
+            ValueError: a field outside its width (u32, i32, i8).
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_startPositionMove_async(self, port: int, position: int, speed: int, acceleration: int, deceleration: int, mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_startPositionMove, without timeout: Starts a move to a position (MOTION_START_P_MOVE).
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            position (int): steps, i32
+            speed (int): steps/s, u32
+            acceleration (int): steps/s2, u32
+            deceleration (int): steps/s2, u32
+            mode (int): 0 absolute, 1 relative (i8)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port, or a type-checked speed or acceleration, is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            TypeError: a field that is not an integer.
+            ValueError: a field outside its width (u32, i32, i8).
+        """
+    def Motion_startScanMove(self, port: int, position_0: int, position_1: int, speed: int, acceleration: int, timeout: float = 3) -> int:
+        """
+        Starts a back-and-forth move between two positions (MOTION_START_SCAN_MOVE).
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            position_0 (int): steps, i32
+            position_1 (int): steps, i32
+            speed (int): steps/s, u32
+            acceleration (int): steps/s2, u32
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port, or a type-checked speed or acceleration, is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            TypeError: a field that is not an integer.
+            ValueError: a field outside its width (u32, i32, i8).
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_startScanMove_async(self, port: int, position_0: int, position_1: int, speed: int, acceleration: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_startScanMove, without timeout: Starts a back-and-forth move between two positions (MOTION_START_SCAN_MOVE).
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            position_0 (int): steps, i32
+            position_1 (int): steps, i32
+            speed (int): steps/s, u32
+            acceleration (int): steps/s2, u32
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port, or a type-checked speed or acceleration, is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            TypeError: a field that is not an integer.
+            ValueError: a field outside its width (u32, i32, i8).
+        """
+    def Motion_startVelocticyMove(self, port: int, speed: int, acceleration: int, deceleration: int, direction: int, timeout: float = 3) -> int:
+        """
+        Starts a move at a speed until stopped (MOTION_START_V_MOVE).
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            speed (int): steps/s, u32
+            acceleration (int): steps/s2, u32
+            deceleration (int): steps/s2, u32
+            direction (int): 1 forward, -1 reverse (i8)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port, or a type-checked speed or acceleration, is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            TypeError: a field that is not an integer.
+            ValueError: a field outside its width (u32, i32, i8).
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_startVelocticyMove_async(self, port: int, speed: int, acceleration: int, deceleration: int, direction: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_startVelocticyMove, without timeout: Starts a move at a speed until stopped (MOTION_START_V_MOVE).
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            speed (int): steps/s, u32
+            acceleration (int): steps/s2, u32
+            deceleration (int): steps/s2, u32
+            direction (int): 1 forward, -1 reverse (i8)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port, or a type-checked speed or acceleration, is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            TypeError: a field that is not an integer.
+            ValueError: a field outside its width (u32, i32, i8).
+        """
+    def Motion_stopProcess(self, port: int, timeout: float = 3) -> int:
+        """
+        Ends the running move or search.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def Motion_stopProcess_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable Motion_stopProcess, without timeout: Ends the running move or search.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+        
+        Returns:
+            int: 0, or the negative code of the firmware's status
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def _Motion_clearFault(self, port: int, timeout: float = 3) -> int:
+        """
+        Writes 31 to GSTAT: clears the global faults.
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the reply's status byte as it is (no firmware check)
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_clearFault_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_clearFault, without timeout: Writes 31 to GSTAT: clears the global faults.
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+        
+        Returns:
+            int: the reply's status byte as it is (no firmware check)
+        """
+    def _Motion_getGlobalConfig(self, port: int, timeout: float = 3) -> list[int]:
+        """
+        Reads MRDR_00_GCONF (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: the register's four bytes, most significant first
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getGlobalConfig_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable _Motion_getGlobalConfig, without timeout: Reads MRDR_00_GCONF (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+        
+        Returns:
+            list[int]: the register's four bytes, most significant first
+        """
+    def _Motion_getGlobalStatus(self, port: int, timeout: float = 3) -> list[int]:
+        """
+        Reads MRDR_01_GSTAT (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: the register's four bytes, most significant first
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getGlobalStatus_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable _Motion_getGlobalStatus, without timeout: Reads MRDR_01_GSTAT (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+        
+        Returns:
+            list[int]: the register's four bytes, most significant first
+        """
+    def _Motion_getInpositionStatus(self, port: int, timeout: float = 3) -> int:
+        """
+        Checks the port; the position-reached bit of the last register read.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0 or 1
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getInpositionStatus_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getInpositionStatus, without timeout: Checks the port; the position-reached bit of the last register read.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+        
+        Returns:
+            int: 0 or 1
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def _Motion_getLimitSwitch(self, port: int, timeout: float = 3) -> list[int]:
+        """
+        Reads MRDR_34_SWMODE (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: the register's four bytes, most significant first
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getLimitSwitch_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable _Motion_getLimitSwitch, without timeout: Reads MRDR_34_SWMODE (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+        
+        Returns:
+            list[int]: the register's four bytes, most significant first
+        """
+    def _Motion_getServeoOnStatus(self, port: int, timeout: float = 3) -> int:
+        """
+        Checks the port.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_getServeoOnStatus_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_getServeoOnStatus, without timeout: Checks the port.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def _Motion_read(self, port: int, reg_addr: int, timeout: float = 3) -> list[int]:
+        """
+        Reads a chip register (MOTION_READ_REG) and keeps its status byte.
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            reg_addr (int): register address, an MRDR_ constant
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: the register's four bytes, most significant first
+        
+        Raises, before anything is sent:
+            ValueError: port or reg_addr outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_readCurrentPosition(self, port: int, timeout: float = 3) -> list[int]:
+        """
+        Reads MRDR_21_XACTUAL (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: the register's four bytes, most significant first
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_readCurrentPosition_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable _Motion_readCurrentPosition, without timeout: Reads MRDR_21_XACTUAL (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+        
+        Returns:
+            list[int]: the register's four bytes, most significant first
+        """
+    def _Motion_readCurrentVelocity(self, port: int, timeout: float = 3) -> list[int]:
+        """
+        Reads MRDR_22_VACTUAL (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: the register's four bytes, most significant first
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_readCurrentVelocity_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable _Motion_readCurrentVelocity, without timeout: Reads MRDR_22_VACTUAL (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+        
+        Returns:
+            list[int]: the register's four bytes, most significant first
+        """
+    def _Motion_readDI(self, port: int, timeout: float = 3) -> int:
+        """
+        Reads the limit and home inputs (READ_AND_GET_DI, mask 7) and drops them.
+        
+        Args:
+            port (int): digital port
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_readEncoderDirection(self, port: int, timeout: float = 3) -> list[int]:
+        """
+        Reads MRDR_3A_ENC_CONST (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: the register's four bytes, most significant first
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_readEncoderPosition(self, port: int, timeout: float = 3) -> list[int]:
+        """
+        Reads MRDR_39_XENC (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            list[int]: the register's four bytes, most significant first
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_readEncoderPosition_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable _Motion_readEncoderPosition, without timeout: Reads MRDR_39_XENC (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+        
+        Returns:
+            list[int]: the register's four bytes, most significant first
+        """
+    def _Motion_read_async(self, port: int, reg_addr: int) -> collections.abc.Coroutine[typing.Any, typing.Any, list[int]]:
+        """
+        Awaitable _Motion_read, without timeout: Reads a chip register (MOTION_READ_REG) and keeps its status byte.
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            reg_addr (int): register address, an MRDR_ constant
+        
+        Returns:
+            list[int]: the register's four bytes, most significant first
+        
+        Raises, before anything is sent:
+            ValueError: port or reg_addr outside 0..255.
+        """
+    def _Motion_resetPosition(self, port: int, position: int, timeout: float = 3) -> int:
+        """
+        Writes MRDR_21_XACTUAL (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            position (int): the word
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the reply's status byte as it is (no firmware check)
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_resetPosition_async(self, port: int, position: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_resetPosition, without timeout: Writes MRDR_21_XACTUAL (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            position (int): the word
+        
+        Returns:
+            int: the reply's status byte as it is (no firmware check)
+        """
+    def _Motion_sendAllConfiguration(self, port: int, timeout: float = 3) -> int:
+        """
+        Sends the stored encoder direction, axis direction and limit settings.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_sendAllConfiguration_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_sendAllConfiguration, without timeout: Sends the stored encoder direction, axis direction and limit settings.
+        
+        Args:
+            port (int): drive port, a key of mrdr_dict
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: port is not an int.
+            MRDRPortNotAvaliable: port is not a key of mrdr_dict.
+        """
+    def _Motion_setEncoderDirection(self, port: int, direction: int, timeout: float = 3) -> int:
+        """
+        Writes MRDR_3A_ENC_CONST (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            direction (int): the word
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the reply's status byte as it is (no firmware check)
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setEncoderDirection_async(self, port: int, direction: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setEncoderDirection, without timeout: Writes MRDR_3A_ENC_CONST (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            direction (int): the word
+        
+        Returns:
+            int: the reply's status byte as it is (no firmware check)
+        """
+    def _Motion_setEncoderPosition(self, port: int, position: int, timeout: float = 3) -> int:
+        """
+        Writes MRDR_39_XENC (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            position (int): the word
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the reply's status byte as it is (no firmware check)
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setEncoderPosition_async(self, port: int, position: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setEncoderPosition, without timeout: Writes MRDR_39_XENC (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            position (int): the word
+        
+        Returns:
+            int: the reply's status byte as it is (no firmware check)
+        """
+    def _Motion_setGlobalConfig(self, port: int, value: int, timeout: float = 3) -> int:
+        """
+        Writes MRDR_00_GCONF (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            value (int): the word
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the reply's status byte as it is (no firmware check)
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setGlobalConfig_async(self, port: int, value: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setGlobalConfig, without timeout: Writes MRDR_00_GCONF (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            value (int): the word
+        
+        Returns:
+            int: the reply's status byte as it is (no firmware check)
+        """
+    def _Motion_setGlobalStatus(self, port: int, value: int, timeout: float = 3) -> int:
+        """
+        Writes MRDR_01_GSTAT (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            value (int): the word
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the reply's status byte as it is (no firmware check)
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setGlobalStatus_async(self, port: int, value: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setGlobalStatus, without timeout: Writes MRDR_01_GSTAT (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            value (int): the word
+        
+        Returns:
+            int: the reply's status byte as it is (no firmware check)
+        """
+    def _Motion_setLimitEnable(self, port: int, forward_enable: int, reverse_enable: int, timeout: float = 3) -> int:
+        """
+        Stores Forward Enable and Reverse Enable in axis.motion_dict; sends nothing.
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            forward_enable (int): 0 or 1
+            reverse_enable (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setLimitEnable_async(self, port: int, forward_enable: int, reverse_enable: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setLimitEnable, without timeout: Stores Forward Enable and Reverse Enable in axis.motion_dict; sends nothing.
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            forward_enable (int): 0 or 1
+            reverse_enable (int): 0 or 1
+        
+        Returns:
+            int: 0
+        """
+    def _Motion_setLimitPolarity(self, port: int, limit_polarity: int, timeout: float = 3) -> int:
+        """
+        Stores Forward Polarity and Reverse Polarity in axis.motion_dict; sends nothing.
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            limit_polarity (int): 0 active low, 1 active high
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setLimitPolarity_async(self, port: int, limit_polarity: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setLimitPolarity, without timeout: Stores Forward Polarity and Reverse Polarity in axis.motion_dict; sends nothing.
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            limit_polarity (int): 0 active low, 1 active high
+        
+        Returns:
+            int: 0
+        """
+    def _Motion_setLimitSwitch(self, port: int, value: int, timeout: float = 3) -> int:
+        """
+        Writes MRDR_34_SWMODE (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            value (int): the word
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the reply's status byte as it is (no firmware check)
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setLimitSwitch_async(self, port: int, value: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setLimitSwitch, without timeout: Writes MRDR_34_SWMODE (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            value (int): the word
+        
+        Returns:
+            int: the reply's status byte as it is (no firmware check)
+        """
+    def _Motion_setRamp(self, port: int, timeout: float = 3) -> int:
+        """
+        Writes the eight entries of TMC5240_main_dict in order.
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the greatest status of the steps, from 0
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setRampMode(self, port: int, ramp_mode: int, timeout: float = 3) -> int:
+        """
+        Writes MRDR_20_RAMPMODE (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            ramp_mode (int): the word
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the reply's status byte as it is (no firmware check)
+        
+        Raises, before anything is sent:
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_setRampMode_async(self, port: int, ramp_mode: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setRampMode, without timeout: Writes MRDR_20_RAMPMODE (no check).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            ramp_mode (int): the word
+        
+        Returns:
+            int: the reply's status byte as it is (no firmware check)
+        """
+    def _Motion_setRamp_async(self, port: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_setRamp, without timeout: Writes the eight entries of TMC5240_main_dict in order.
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+        
+        Returns:
+            int: the greatest status of the steps, from 0
+        """
+    def _Motion_write(self, port: int, reg_addr: int, data: int, timeout: float = 3) -> int:
+        """
+        Writes a chip register (MOTION_WRITE_REG).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            reg_addr (int): register address, an MRDR_ constant
+            data (int): the 32-bit word; negative values wrap
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: the reply's status byte as it is (no firmware check)
+        
+        Raises, before anything is sent:
+            ValueError: port or reg_addr outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeDO(self, port: int, pin: int, value: int, timeout: float = 3) -> int:
+        """
+        Writes one digital output pin (SET_AND_WRITE_DO); the reply is not looked at.
+        
+        Args:
+            port (int): digital port
+            pin (int): 0..7
+            value (int): 0 or 1
+            timeout (float): seconds to wait for each reply, above 0 (default 3)
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: pin or value is not an int.
+            ValueError: a byte outside 0..255.
+            InputDataNotInRangeError: a timeout of 0, below 0 or NaN, once the call has a packet to send.
+        """
+    def _Motion_writeDO_async(self, port: int, pin: int, value: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_writeDO, without timeout: Writes one digital output pin (SET_AND_WRITE_DO); the reply is not looked at.
+        
+        Args:
+            port (int): digital port
+            pin (int): 0..7
+            value (int): 0 or 1
+        
+        Returns:
+            int: 0
+        
+        Raises, before anything is sent:
+            InputTypeNotCorrectError: pin or value is not an int.
+            ValueError: a byte outside 0..255.
+        """
+    def _Motion_write_async(self, port: int, reg_addr: int, data: int) -> collections.abc.Coroutine[typing.Any, typing.Any, int]:
+        """
+        Awaitable _Motion_write, without timeout: Writes a chip register (MOTION_WRITE_REG).
+        
+        Args:
+            port (int): drive port byte as given (not checked)
+            reg_addr (int): register address, an MRDR_ constant
+            data (int): the 32-bit word; negative values wrap
+        
+        Returns:
+            int: the reply's status byte as it is (no firmware check)
+        
+        Raises, before anything is sent:
+            ValueError: port or reg_addr outside 0..255.
+        """
+    def _TMC5240_getSPIStatus(self, status_byte: typing.Any) -> int:
+        """
+        Stores the eight bits of a status byte in the status_bit attributes; returns 0.
+        """
+    def _checkTMC5240Port(self, port: typing.Any) -> None:
+        """
+        Raises InputTypeNotCorrectError or MRDRPortNotAvaliable for a port not in mrdr_dict.
+        """
+    @property
+    def TMC5240_default_dict(self) -> dict:
+        """
+        The parameter block, name -> (value, register) in wire order: what Motion_setParameters and Motion_saveParameters send and Motion_getParameters and Motion_loadParameters fill. A copy; assign a dict of name -> value (or (value, register)) to change values.
+        """
+    @TMC5240_default_dict.setter
+    def TMC5240_default_dict(self, arg1: dict) -> None:
+        ...
+    @property
+    def TMC5240_main_dict(self) -> dict:
+        """
+        The ramp set that _Motion_setRamp writes: name -> (value, register), in order.  A copy; assign a dict of name -> value (or (value, register)) to change values.
+        """
+    @TMC5240_main_dict.setter
+    def TMC5240_main_dict(self, arg1: dict) -> None:
+        ...
+    @property
+    def axis(self) -> MotionAxis:
+        """
+        The axis record and its ini settings.
+        """
+    @property
+    def iniconfig(self) -> typing.Any:
+        """
+        The settings the module's parser holds, as a configparser.ConfigParser read from its text (a copy). AttributeError before Motion_openCfgFile.
+        """
+    @property
+    def inifile(self) -> str:
+        """
+        The ini file's name.
+        """
+    @property
+    def inimode(self) -> str:
+        """
+        The mode the file is written with.
+        """
+    @property
+    def motion_ini(self) -> MotionInifile:
+        """
+        The ini file's words for the settings.
+        """
+    @property
+    def status_bit0_resetflag(self) -> int:
+        """
+        A bit of the SPI status byte of the last register read.
+        """
+    @property
+    def status_bit1_driver_err(self) -> int:
+        """
+        A bit of the SPI status byte of the last register read.
+        """
+    @property
+    def status_bit2_sg2(self) -> int:
+        """
+        A bit of the SPI status byte of the last register read.
+        """
+    @property
+    def status_bit3_standstill(self) -> int:
+        """
+        A bit of the SPI status byte of the last register read.
+        """
+    @property
+    def status_bit4_velocityreach(self) -> int:
+        """
+        A bit of the SPI status byte of the last register read.
+        """
+    @property
+    def status_bit5_positionreach(self) -> int:
+        """
+        A bit of the SPI status byte of the last register read.
+        """
+    @property
+    def status_bit6_stopl(self) -> int:
+        """
+        A bit of the SPI status byte of the last register read.
+        """
+    @property
+    def status_bit7_stopr(self) -> int:
+        """
+        A bit of the SPI status byte of the last register read.
+        """
 class ThermalResistanceModule(ThermalModule):
     """
     Resistance temperature sensors, PT-100 and PT-1000 (PloverRtd).
@@ -17828,7 +19550,7 @@ class Trellis(DataLogger, ETHDevice, SystemModule, NetworkModule, AIModule, AOMo
     """
     def __init__(self, verbose: bool = True) -> None:
         ...
-class MerlinDrive(ETHDevice, SystemModule, NetworkModule):
+class MerlinDrive(ETHDevice, SystemModule, NetworkModule, TMC5240Module):
     """
     MerlinDrive (Merlin-Drive): device class ETHDevice; modules System, Network, TMC5240.
     
@@ -18354,6 +20076,88 @@ MOTION_EF_RR7: int = 239
 MOTION_FC_I2CCHK: int = 252
 MOTION_FD_I2CRST: int = 253
 MOTION_FE_HDRST: int = 254
+MOTION_GET_PARAM: int = 7184
+MOTION_GET_PROC_STATE: int = 7296
+MOTION_LOAD_PARAM: int = 7186
+MOTION_READ_REG: int = 7172
+MOTION_RESET_FACTORY: int = 7188
+MOTION_SAVE_PARAM: int = 7187
+MOTION_SET_PARAM: int = 7185
+MOTION_START_FIND_END: int = 7328
+MOTION_START_FIND_HOME: int = 7329
+MOTION_START_FIND_Z: int = 7330
+MOTION_START_P_MOVE: int = 7313
+MOTION_START_SCAN_MOVE: int = 7314
+MOTION_START_V_MOVE: int = 7312
+MOTION_STOP_PROC: int = 7297
+MOTION_WRITE_REG: int = 7173
+MRDR_00_GCONF: int = 0
+MRDR_01_GSTAT: int = 1
+MRDR_02_IFCNT: int = 2
+MRDR_03_SLAVECONF: int = 3
+MRDR_04_INP_OUT: int = 4
+MRDR_05_X_COMPARE: int = 5
+MRDR_06_OTP_PROG: int = 6
+MRDR_0A_DRV_CONF: int = 10
+MRDR_0B_GLOBAL_SCALER: int = 11
+MRDR_10_IHOLD_IRUN: int = 16
+MRDR_11_TPOWERDOWN: int = 17
+MRDR_12_TSTEP: int = 18
+MRDR_13_TPWMTHRS: int = 19
+MRDR_14_TCOOLTHRS: int = 20
+MRDR_15_THIGH: int = 21
+MRDR_20_RAMPMODE: int = 32
+MRDR_21_XACTUAL: int = 33
+MRDR_22_VACTUAL: int = 34
+MRDR_23_VSTART: int = 35
+MRDR_24_A1: int = 36
+MRDR_25_V1: int = 37
+MRDR_26_AMAX: int = 38
+MRDR_27_VMAX: int = 39
+MRDR_28_DMAX: int = 40
+MRDR_29_TVMAX: int = 41
+MRDR_2A_D1: int = 42
+MRDR_2B_VSTOP: int = 43
+MRDR_2C_TZEROWAIT: int = 44
+MRDR_2D_XTARGET: int = 45
+MRDR_2F_A2: int = 47
+MRDR_30_D2: int = 48
+MRDR_31_AACTUAL: int = 49
+MRDR_33_VDCMIN: int = 51
+MRDR_34_SWMODE: int = 52
+MRDR_35_RAMPSTAT: int = 53
+MRDR_36_XLATCH: int = 54
+MRDR_38_ENCMODE: int = 56
+MRDR_39_XENC: int = 57
+MRDR_3A_ENC_CONST: int = 58
+MRDR_3B_ENC_STATUS: int = 59
+MRDR_3C_ENC_LATCH: int = 60
+MRDR_3D_ENC_DEVIATION: int = 61
+MRDR_50_ADC_VSUPPLY_AIN: int = 80
+MRDR_51_ADC_TEMP: int = 81
+MRDR_52_OTW_OV_VTH: int = 82
+MRDR_60_MSLUT0: int = 96
+MRDR_61_MSLUT1: int = 97
+MRDR_62_MSLUT2: int = 98
+MRDR_63_MSLUT3: int = 99
+MRDR_64_MSLUT4: int = 100
+MRDR_65_MSLUT5: int = 101
+MRDR_66_MSLUT6: int = 102
+MRDR_67_MSLUT7: int = 103
+MRDR_68_MSLUTSEL: int = 104
+MRDR_69_MSLUTSTART: int = 105
+MRDR_6A_MSCNT: int = 106
+MRDR_6B_MSCURACT: int = 107
+MRDR_6C_CHOPCONF: int = 108
+MRDR_6D_COOLCONF: int = 109
+MRDR_6E_DCCTRL: int = 110
+MRDR_6F_DRVSTATUS: int = 111
+MRDR_70_PWMCONF: int = 112
+MRDR_71_PWMSCALE: int = 113
+MRDR_72_PWM_AUTO: int = 114
+MRDR_74_SG4_THRS: int = 116
+MRDR_75_SG4_RESULT: int = 117
+MRDR_76_SG4_IND: int = 118
 NUM_BCST_RETRIES: int = 3
 NUM_RETRIES: int = 3
 OPEN_CAN: int = 48
