@@ -232,7 +232,7 @@ void getDioState(Context& ctx, const Request& req) {
 }
 
 void readAndGetDi(Context& ctx, const Request& req) {
-  if (serveWifiBoardIO(ctx, req)) return;
+  if (serveWifiBoardIO(ctx, req) || serveTmc5240Inputs(ctx, req)) return;
   if (req.data.empty()) return;
   const int port = req.data[0];
   const auto pins = portPins(infoOf(ctx), port);

@@ -45,8 +45,10 @@
 // The SPI status byte: bit 0 reset, bit 1 driver error (from GSTAT), bit 3
 // standstill, bit 4 velocity reached (moving), bit 5 position reached (idle
 // at XTARGET or after a completed position move), bits 6 and 7 the forward
-// and reverse limits.  Not simulated: ramps, stallGuard, the encoder's own
-// motion (XENC follows XACTUAL), the DI lines of READ_AND_GET_DI.
+// and reverse limits.  READ_AND_GET_DI [port, mask] on the drive answers
+// [port, word] with the forward limit (bit 0), the reverse limit (bit 1) and
+// home (bit 2) as the inputs stand now.  Not simulated: ramps, stallGuard,
+// the encoder's own motion (XENC follows XACTUAL).
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -59,6 +61,7 @@
 #include "motion/tmc5240.hpp"
 #include "sim/device.hpp"
 #include "sim/handler.hpp"
+#include "sim/pin_modes.hpp"
 
 namespace orv::sim {
 
@@ -465,6 +468,31 @@ void start(Context& ctx, const Request& req) {
     ctx.reply({d[0], 0});
   });
 }
+
+}  // namespace
+
+bool serveTmc5240Inputs(Context& ctx, const Request& req) {
+  if (!modelInfo(ctx.device().model()).has("TMC5240") || req.data.size() < 3) return false;
+  uint16_t levels = 0;
+  {
+    DeviceState& st = ctx.state();
+    auto sim = st.slot<TmcSim>();
+    PortSim& p = sim->ports[req.data[0]];
+    advance(st, p, Clock::now());
+    const bool home = intKey(st, "home") != 0 || [&] {
+      const auto at = switchAt(st, "home");
+      return at && std::abs(p.position - *at) < 0.5;
+    }();
+    levels = static_cast<uint16_t>((limitActive(st, p, 1) ? 1 : 0) |
+                                   (limitActive(st, p, -1) ? 2 : 0) | (home ? 4 : 0));
+  }
+  const uint16_t mask = static_cast<uint16_t>((req.data[1] << 8) | req.data[2]);
+  levels &= mask;
+  ctx.reply({req.data[0], static_cast<uint8_t>(levels >> 8), static_cast<uint8_t>(levels)});
+  return true;
+}
+
+namespace {
 
 const Registrar reg{{
     {MOTION_READ_REG, readReg},

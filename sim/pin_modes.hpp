@@ -69,6 +69,10 @@ Bytes pinModeReply(SimDevice& dev, int port);
 // first, so that the Wi-Fi models keep their board.
 bool serveWifiBoardIO(Context& ctx, const Request& req);
 
+// READ_AND_GET_DI on a drive with a TMC5240: its limit and home inputs
+// (sim/handlers_tmc5240.cpp).  Returns false on any other model.
+bool serveTmc5240Inputs(Context& ctx, const Request& req);
+
 // True for the Wi-Fi models (by the model table, else by the link).
 bool isWifiModel(const SimDevice& dev);
 

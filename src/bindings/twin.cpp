@@ -268,7 +268,7 @@ void bindReactor(py::module_& m) {
       .def("_run_input", &LoopReactor::runInput);
 }
 
-py::object startAwaitable(py::object keep, AsyncBody body) {
+py::object startAwaitable(py::object keep, AsyncBody body, std::shared_ptr<CancelToken>* token) {
   py::object loop = runningLoop();
   auto reactor = reactorFor(loop);
   auto* p = new Pending{std::move(keep),
@@ -278,7 +278,10 @@ py::object startAwaitable(py::object keep, AsyncBody body) {
                         {},
                         {}};
   py::object future = p->future;
-  future.attr(names().add_done_callback)(cancelOnDone(p->token));
+  if (token)
+    *token = p->token;
+  else
+    future.attr(names().add_done_callback)(cancelOnDone(p->token));
   p->fiber = std::make_unique<Fiber>(
       reactor,
       [p, body = std::move(body)] {
@@ -309,6 +312,7 @@ namespace {
 struct PendingStart {
   py::object keep;
   AsyncBody body;
+  std::shared_ptr<CancelToken> token;  // set when the call starts
 };
 
 // A capsule that owns `p`: freed with the coroutine that holds it.
@@ -322,7 +326,7 @@ py::capsule owned(T* p) {
 // function object made per call would cost more than the rest of the call's
 // setup together.
 struct Coroutines {
-  py::object await_call, run_now, start, run;
+  py::object await_call, run_now, start, cancel, run;
 };
 
 Coroutines& coroutines() {
@@ -331,9 +335,17 @@ Coroutines& coroutines() {
       .call_once_and_store_result([] {
         py::dict scope;
         scope["__builtins__"] = py::module_::import("builtins");
+        scope["_CancelledError"] = py::module_::import("asyncio").attr("CancelledError");
+        // A cancelled task raises CancelledError at its await: the call's
+        // token is cancelled there, with no callback on the future.
         py::exec(R"(
-async def _await_call(start, call):
-    return await start(call)
+async def _await_call(start, cancel, call):
+    future = start(call)
+    try:
+        return await future
+    except _CancelledError:
+        cancel(call)
+        raise
 
 async def _run_now(run, call):
     return run(call)
@@ -344,7 +356,10 @@ async def _run_now(run, call):
         c.run_now = scope["_run_now"];
         c.start = py::cpp_function([](const py::capsule& call) {
           auto* p = call.get_pointer<PendingStart>();
-          return startAwaitable(p->keep, p->body);
+          return startAwaitable(p->keep, p->body, &p->token);
+        });
+        c.cancel = py::cpp_function([](const py::capsule& call) {
+          if (auto& token = call.get_pointer<PendingStart>()->token) token->cancel();
         });
         c.run = py::cpp_function([](const py::capsule& call) {
           return (*call.get_pointer<std::function<py::object()>>())();
@@ -358,7 +373,8 @@ async def _run_now(run, call):
 
 py::object makeCoroutine(py::object keep, AsyncBody body) {
   auto& c = coroutines();
-  return c.await_call(c.start, owned(new PendingStart{std::move(keep), std::move(body)}));
+  return c.await_call(c.start, c.cancel,
+                      owned(new PendingStart{std::move(keep), std::move(body), nullptr}));
 }
 
 py::object immediateCoroutine(std::function<py::object()> f) {

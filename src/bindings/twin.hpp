@@ -2,8 +2,8 @@
 // event loop's thread (link/fiber.hpp).  Its waits park the fiber and give the
 // loop back; a reply, a deadline or a cancel resumes it through the loop's
 // reactor, and its end completes the call's asyncio future.  No thread is
-// taken by a pending call.  Cancelling the future cancels the call's token,
-// which ends the wait it is in.
+// taken by a pending call.  Cancelling the call (its task) cancels the call's
+// token, which ends the wait it is in.
 #pragma once
 
 #include <pybind11/pybind11.h>
@@ -27,8 +27,11 @@ using AsyncBody = std::function<std::function<py::object()>(CancelToken* tok)>;
 py::object makeCoroutine(py::object keep, AsyncBody body);
 
 // Starts `body` on the running loop now and returns the asyncio future of its
-// result.
-py::object startAwaitable(py::object keep, AsyncBody body);
+// result.  With `token`, the caller is handed the call's cancel token and
+// cancels it itself when the future is cancelled; without, a done-callback of
+// the future does.
+py::object startAwaitable(py::object keep, AsyncBody body,
+                          std::shared_ptr<CancelToken>* token = nullptr);
 
 // A coroutine that runs `f` when awaited, without suspending (for twins that
 // never wait: fire-and-forget sends, stream reads that take what is there).

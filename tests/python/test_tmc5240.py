@@ -220,6 +220,7 @@ def test_a_limit_ends_a_velocity_move(drive):
     assert wait_until(lambda: dev.Motion_getProcessState(0) == 0)
     position = dev.Motion_readEncoderPosition(0)[1]
     assert 300 <= position < 2**31 and dev.status_bit6_stopl == 1
+    assert dev.Motion_getLimitStatus(0) == [1, 0, 0]   # the simulated inputs reach the DI word
     assert dev.Motion_startVelocticyMove(0, 2000, 100, 100, -1) == 0   # away from it is free
     assert dev.Motion_getProcessState(0) == 1
 
