@@ -11,6 +11,7 @@
 #include "bindings/bindings.hpp"
 #include "bindings/twin.hpp"
 #include "bindings/twin_def.hpp"
+#include "bindings/twin_untimed.hpp"
 #include "motion/mcx514.hpp"
 
 namespace orv::py_bind {
@@ -263,35 +264,6 @@ constexpr const char* kPortOnly =
 Arg flag(const char* name, const char* about) { return {name, kInt, about}; }
 Arg num(const char* name, const char* about, const char* def = nullptr) {
   return {name, kInt, about, def};
-}
-
-// The ini file's open and save take no timeout; their twins yield once.
-template <class... A>
-void defFileOp(py::class_<M, D, std::shared_ptr<M>>& cls, int (M::*op)(const Call&, A...),
-               const Op& row) {
-  py::options opts;
-  opts.disable_function_signatures();
-  const std::string doc = blockingDoc(row, false);
-  const std::string async_doc = awaitableDoc(row);
-  withRowArgs<sizeof...(A), sizeof...(A)>(row, [&](const auto&... args) {
-    cls.def(
-        row.name,
-        [op](M& self, A... a) {
-          return (self.*op)(Call(self.device(), Call::Flavour::Blocking), a...);
-        },
-        args..., py::doc(doc.c_str()));
-    cls.def(
-        asyncName(row).c_str(),
-        [op](py::object self_obj, A... a) {
-          M& self = self_obj.cast<M&>();
-          return makeCoroutine(self_obj, [&self, op, a...](CancelToken* tok) {
-            const int r = (self.*op)(
-                Call(self.device(), Call::Flavour::Awaitable, PACKET_TIMEOUT, tok), a...);
-            return std::function<py::object()>([r] { return py::object(py::int_(r)); });
-          });
-        },
-        args..., py::doc(async_doc.c_str()));
-  });
 }
 
 void bindModule(py::module_& m) {
@@ -606,19 +578,20 @@ void bindModule(py::module_& m) {
            "(port, axis as usual)\nMotionEnableError: not 0 or 1."});
 
   // The ini file.
-  defFileOp(cls, &M::Motion_openCfgFile,
-            {"Motion_openCfgFile",
-             "Chooses an existing .ini file for save and load.",
-             {{"filename", kStr, "an existing file ending in .ini", "'test.ini'"}},
-             {kInt, "0"},
-             "IniFileNotFoundError: no such file.\nIniFileExtensionNameError: the name does not "
-             "end in .ini."});
-  defFileOp(cls, &M::Motion_saveCfgFile,
-            {"Motion_saveCfgFile",
-             "Writes the four axes' settings to the file.",
-             {},
-             {kInt, "0"},
-             "AttributeError: no file opened yet."});
+  defUntimed<1>(
+      cls, &M::Motion_openCfgFile,
+      {"Motion_openCfgFile",
+       "Chooses an existing .ini file for save and load.",
+       {{"filename", kStr, "an existing file ending in .ini", "'test.ini'"}},
+       {kInt, "0"},
+       "IniFileNotFoundError: no such file.\nIniFileExtensionNameError: the name does not "
+       "end in .ini."});
+  defUntimed(cls, &M::Motion_saveCfgFile,
+             {"Motion_saveCfgFile",
+              "Writes the four axes' settings to the file.",
+              {},
+              {kInt, "0"},
+              "AttributeError: no file opened yet."});
   defTwin(cls, &M::Motion_loadCfgFile,
           {"Motion_loadCfgFile",
            "Reads the four axes' settings and sends them to motion port 0, axis by axis.",

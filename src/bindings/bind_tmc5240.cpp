@@ -9,6 +9,7 @@
 #include "bindings/bindings.hpp"
 #include "bindings/twin.hpp"
 #include "bindings/twin_def.hpp"
+#include "bindings/twin_untimed.hpp"
 #include "motion/tmc5240.hpp"
 
 namespace orv::py_bind {
@@ -53,34 +54,6 @@ void defBlocking(Cls& cls, R (M::*op)(const Call&, A...), const Op& row) {
           return (self.*op)(Call(self.device(), Call::Flavour::Blocking, timeout), a...);
         },
         args..., py::arg("timeout") = row.timeout, py::doc(doc.c_str()));
-  });
-}
-
-// The ini file's open and save take no timeout.
-template <class... A>
-void defFileOp(Cls& cls, int (M::*op)(const Call&, A...), const Op& row) {
-  py::options opts;
-  opts.disable_function_signatures();
-  const std::string doc = blockingDoc(row, false);
-  const std::string async_doc = awaitableDoc(row);
-  withRowArgs<sizeof...(A), sizeof...(A)>(row, [&](const auto&... args) {
-    cls.def(
-        row.name,
-        [op](M& self, A... a) {
-          return (self.*op)(Call(self.device(), Call::Flavour::Blocking), a...);
-        },
-        args..., py::doc(doc.c_str()));
-    cls.def(
-        asyncName(row).c_str(),
-        [op](py::object self_obj, A... a) {
-          M& self = self_obj.cast<M&>();
-          return makeCoroutine(self_obj, [&self, op, a...](CancelToken* tok) {
-            const int r = (self.*op)(
-                Call(self.device(), Call::Flavour::Awaitable, PACKET_TIMEOUT, tok), a...);
-            return std::function<py::object()>([r] { return py::object(py::int_(r)); });
-          });
-        },
-        args..., py::doc(async_doc.c_str()));
   });
 }
 
@@ -439,19 +412,20 @@ void bindModule(py::module_& m) {
            kStartErr});
 
   // The ini file.
-  defFileOp(cls, &M::Motion_openCfgFile,
-            {"Motion_openCfgFile",
-             "Chooses an existing .ini file for save and load.",
-             {{"filename", kStr, "an existing file ending in .ini", "'test.ini'"}},
-             {kInt, "0"},
-             "IniFileNotFoundError: no such file.\nIniFileExtensionNameError: the name does not "
-             "end in .ini."});
-  defFileOp(cls, &M::Motion_saveCfgFile,
-            {"Motion_saveCfgFile",
-             "Writes the axis's settings to the file, section Axis_1.",
-             {},
-             {kInt, "0"},
-             "AttributeError: no file opened yet."});
+  defUntimed<1>(
+      cls, &M::Motion_openCfgFile,
+      {"Motion_openCfgFile",
+       "Chooses an existing .ini file for save and load.",
+       {{"filename", kStr, "an existing file ending in .ini", "'test.ini'"}},
+       {kInt, "0"},
+       "IniFileNotFoundError: no such file.\nIniFileExtensionNameError: the name does not "
+       "end in .ini."});
+  defUntimed(cls, &M::Motion_saveCfgFile,
+             {"Motion_saveCfgFile",
+              "Writes the axis's settings to the file, section Axis_1.",
+              {},
+              {kInt, "0"},
+              "AttributeError: no file opened yet."});
   defTwin(cls, &M::Motion_loadCfgFile,
           {"Motion_loadCfgFile",
            "Reads the axis's settings from section Axis_1 and sends them to drive port 0.",

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -230,6 +231,17 @@ Value MotionInifile::_Motion_INI_convertStringToInt(std::string_view key,
   auto it = row->second.find(std::string(label));
   if (it == row->second.end()) throw KeyError("'" + std::string(label) + "'");
   return Value(it->second);
+}
+
+const std::string& checkedIniPath(const Value& filename) {
+  if (!filename.isText())
+    throw TypeError("stat: path should be string, not " + std::string(filename.typeName()));
+  const std::string& name = filename.asText();
+  std::error_code ec;
+  if (!std::filesystem::exists(name, ec)) raise(ErrorId::IniFileNotFoundError);
+  if (name.size() < 4 || name.compare(name.size() - 4, 4, ".ini") != 0)
+    raise(ErrorId::IniFileExtensionNameError);
+  return name;
 }
 
 }  // namespace orv

@@ -45,6 +45,11 @@ class IniConfig {
   std::vector<std::pair<std::string, Section>> sections_;
 };
 
+// The path Motion_openCfgFile takes: a text naming a file that exists and
+// ends in ".ini"; raises as opening it would (TypeError,
+// IniFileNotFoundError, IniFileExtensionNameError).
+const std::string& checkedIniPath(const Value& filename);
+
 // Settings <-> words of the motion ini file.
 class MotionInifile {
  public:

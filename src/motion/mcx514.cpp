@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
 
 #include "link/convert.hpp"
 
@@ -703,14 +702,7 @@ std::string MCX514Module::iniconfigText() const {
 }
 
 int MCX514Module::Motion_openCfgFile(const Call& c, const Value& filename) {
-  if (!filename.isText())
-    throw TypeError("stat: path should be string, not " + std::string(filename.typeName()));
-  const std::string& name = filename.asText();
-  std::error_code ec;
-  if (!std::filesystem::exists(name, ec)) raise(ErrorId::IniFileNotFoundError);
-  if (name.size() < 4 || name.compare(name.size() - 4, 4, ".ini") != 0)
-    raise(ErrorId::IniFileExtensionNameError);
-  inifile_ = name;
+  inifile_ = checkedIniPath(filename);
   inimode_ = "w";
   iniconfig_ = std::make_unique<IniConfig>();
   yieldOnce(c);

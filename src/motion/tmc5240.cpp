@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <filesystem>
 
 #include "link/convert.hpp"
 
@@ -528,14 +527,7 @@ std::string TMC5240Module::iniconfigText() const {
 }
 
 int TMC5240Module::Motion_openCfgFile(const Call&, const Value& filename) {
-  if (!filename.isText())
-    throw TypeError("stat: path should be string, not " + std::string(filename.typeName()));
-  const std::string& name = filename.asText();
-  std::error_code ec;
-  if (!std::filesystem::exists(name, ec)) raise(ErrorId::IniFileNotFoundError);
-  if (name.size() < 4 || name.compare(name.size() - 4, 4, ".ini") != 0)
-    raise(ErrorId::IniFileExtensionNameError);
-  inifile_ = name;
+  inifile_ = checkedIniPath(filename);
   inimode_ = "w";
   iniconfig_ = std::make_unique<IniConfig>();
   return 0;
