@@ -5,10 +5,10 @@ packet, the checks, firmware statuses, the ini file and a simulated move."""
 import asyncio
 import configparser
 import csv
-import importlib.util
 import math
 import pathlib
 import re
+import runpy
 
 import pytest
 
@@ -597,10 +597,7 @@ def test_helix_calculates_then_turns_and_climbs(axis):
 
 def test_motion_path_example_writes_its_csv(tmp_path):
     example = pathlib.Path(__file__).resolve().parents[2] / "examples" / "motion_path.py"
-    spec = importlib.util.spec_from_file_location("motion_path", example)
-    module = importlib.util.module_from_spec(spec)
-    spec.loader.exec_module(module)
-    written = module.main(str(tmp_path))
+    written = runpy.run_path(str(example))["main"](str(tmp_path))
     assert written[0] == str(tmp_path / "motion_path.csv")
     with open(written[0]) as f:
         rows = list(csv.reader(f))
