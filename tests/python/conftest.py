@@ -123,6 +123,13 @@ def thread_ids():
     return set(os.listdir("/proc/self/task"))
 
 
+def threads_gone(ids, timeout=5.0):
+    """True once none of the native thread ids `ids` is left.  A joined
+    thread's entry under /proc can outlive the join by a moment: the join
+    returns when the system clears the thread's id, before it is reaped."""
+    return wait_until(lambda: not set(ids) & thread_ids(), timeout)
+
+
 def wait_until(pred, timeout=5.0):
     end = time.monotonic() + timeout
     while time.monotonic() < end:

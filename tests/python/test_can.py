@@ -8,7 +8,7 @@ import threading
 import pytest
 
 import pyorv
-from conftest import answer, last, refuses, run, sent, thread_ids, wait_until, wire
+from conftest import answer, last, refuses, run, sent, thread_ids, threads_gone, wait_until, wire
 
 # The USB models look for the USB library beside the module and warn when it is not there.
 pytestmark = pytest.mark.filterwarnings("ignore::pyorv.ExtLibNotFoundWarning")
@@ -219,7 +219,7 @@ def test_close_ends_a_pending_read_and_joins_the_thread(plover_can):
     dev.close(verbose=False)
     t.join(5)
     assert not t.is_alive() and result and dev.can_killed
-    assert not stream & thread_ids()
+    assert threads_gone(stream)
 
 
 def test_frames_convert_to_and_from_python_can_messages(plover_can):

@@ -19,7 +19,7 @@ import pytest
 import pyorv
 import pyorv.sim as sim
 from conftest import connect as conftest_connect
-from conftest import refuses, sent, thread_ids, wait_until
+from conftest import refuses, sent, thread_ids, threads_gone, wait_until
 
 SILENT = 120  # a command the simulated firmware never answers here
 
@@ -102,7 +102,7 @@ def test_garbage_collected_open_device_warns_and_is_closed(simulator):
                       match=rf"^unclosed device Kestrel-Dio_X at {re.escape(sim_dev.host)}:"):
         del dev
         gc.collect()
-    assert not receiver & thread_ids()  # the destructor joined both
+    assert threads_gone(receiver)  # the destructor joined both
     assert wait_until(lambda: not sim_dev.host_connected())
 
 

@@ -10,7 +10,7 @@ from decimal import Decimal
 import pytest
 
 import pyorv
-from conftest import thread_ids, wait_until
+from conftest import thread_ids, threads_gone, wait_until
 
 
 class Half(float):
@@ -124,7 +124,7 @@ def test_close_ends_the_writer_and_later_rows_are_lost(tmp_path):
     assert lg._Logger_flush()
     writer = str(lg._save_data_thread_id)
     assert lg._Logger_close() == 0
-    assert lg._save_data_thread_id == 0 and writer not in thread_ids()
+    assert lg._save_data_thread_id == 0 and threads_gone({writer})
     lg.Logger_writeValue(2)
     assert path.read_bytes() == b"1\r\n"
     assert lg.queue_timeout == 999999
@@ -140,7 +140,7 @@ def test_model_close_frees_its_logger(pair, tmp_path):
     logger_thread = str(dev._save_data_thread_id)
     assert logger_thread in thread_ids() - before
     dev.close(verbose=False)
-    assert dev._save_data_thread_id == 0 and logger_thread not in thread_ids()
+    assert dev._save_data_thread_id == 0 and threads_gone({logger_thread})
     assert path.read_bytes() == b"0,0.5\r\n"
 
 

@@ -9,7 +9,7 @@ import warnings
 import pytest
 
 import pyorv
-from conftest import answer, last, refuses, run, sent, thread_ids, wait_until, wire
+from conftest import answer, last, refuses, run, sent, thread_ids, threads_gone, wait_until, wire
 
 # The USB models look for the USB library beside the module and warn when it is not there.
 pytestmark = pytest.mark.filterwarnings("ignore::pyorv.ExtLibNotFoundWarning")
@@ -205,4 +205,4 @@ def test_close_ends_a_pending_read_and_joins_the_threads(plover):
     t.join(5)
     assert not t.is_alive() and result
     assert dev.uart_killed
-    assert not streams & thread_ids()
+    assert threads_gone(streams)
