@@ -16,6 +16,7 @@
 // real firmware (a device may install a fallback handler to change that).
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <initializer_list>
@@ -96,5 +97,14 @@ class Registrar {
 
 // Helpers for payloads.
 inline Bytes textBytes(std::string_view s) { return Bytes(s.begin(), s.end()); }
+
+// A status reply that echoes the first `echo` bytes of the request (a write's
+// port, then its address or length) ahead of the status byte.
+inline void echoStatus(Context& ctx, const Request& req, size_t echo, uint8_t status) {
+  Bytes out(echo + 1, 0);
+  std::copy_n(req.data.begin(), std::min(echo, req.data.size()), out.begin());
+  out[echo] = status;
+  ctx.reply(out);
+}
 
 }  // namespace orv::sim

@@ -70,15 +70,6 @@ const std::vector<PinPair>* portPins(Context& ctx, int port) {
 
 void status(Context& ctx, int port, uint8_t s) { ctx.reply({static_cast<uint8_t>(port), s}); }
 
-// A write's reply echoes the head of its payload (port, then the address or
-// the length) ahead of the status byte.
-void echoStatus(Context& ctx, const Request& req, size_t echo, uint8_t s) {
-  Bytes out(echo + 1, 0);
-  std::copy_n(req.data.begin(), std::min(echo, req.data.size()), out.begin());
-  out[echo] = s;
-  ctx.reply(out);
-}
-
 uint16_t sensorTemperature(Context& ctx) {
   const Value t = ctx.state().get("i2c.lm75.temp", Value(25.0));
   const double c = t.isNumber() ? t.asFloat() : 25.0;
