@@ -19,6 +19,7 @@
 #include "link/constants.hpp"
 #include "link/error.hpp"
 #include "link/framing.hpp"
+#include "link/thread_name.hpp"
 
 namespace orv::sim::detail {
 
@@ -35,7 +36,10 @@ Bytes deviceInfoAnswer(const SimDevice& dev) {
 Discovery::Discovery(const std::string& host, int port, int reply_port, DeviceList devices)
     : devices_(std::move(devices)), reply_port_(reply_port) {
   fd_ = bindSocket(SOCK_DGRAM, host, port, &port_);
-  thread_ = std::thread([this] { run(); });
+  thread_ = std::thread([this] {
+    nameThisThread("sim-discovery");
+    run();
+  });
 }
 
 Discovery::~Discovery() {

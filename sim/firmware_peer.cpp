@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "link/error.hpp"
+#include "link/thread_name.hpp"
 
 namespace orv::sim::detail {
 
@@ -38,7 +39,10 @@ FirmwarePeer::FirmwarePeer(const std::string& host, int port, Stopper& stopper, 
 FirmwarePeer::~FirmwarePeer() { join(); }
 
 void FirmwarePeer::start() {
-  thread_ = std::thread([this] { run(); });
+  thread_ = std::thread([this] {
+    nameThisThread("sim-peer");
+    run();
+  });
 }
 
 void FirmwarePeer::run() {

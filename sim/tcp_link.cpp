@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "link/error.hpp"
+#include "link/thread_name.hpp"
 #include "sim/links.hpp"
 
 namespace orv::sim::detail {
@@ -46,7 +47,10 @@ TcpLink::TcpLink(Channel ch, const std::string& host, int port, Stopper& stopper
 TcpLink::~TcpLink() { join(); }
 
 void TcpLink::start() {
-  thread_ = std::thread([this] { run(); });
+  thread_ = std::thread([this] {
+    nameThisThread("sim-tcp");
+    run();
+  });
 }
 
 void TcpLink::join() {

@@ -1,5 +1,7 @@
 #include "sim/ticker.hpp"
 
+#include "link/thread_name.hpp"
+
 namespace orv::sim::detail {
 
 int Ticker::start(std::chrono::microseconds interval, std::function<bool()> tick) {
@@ -7,7 +9,11 @@ int Ticker::start(std::chrono::microseconds interval, std::function<bool()> tick
   if (quit_) return 0;
   const int id = next_id_++;
   tasks_[id] = Task{interval, Clock::now() + interval, std::move(tick)};
-  if (!thread_.joinable()) thread_ = std::thread([this] { run(); });
+  if (!thread_.joinable())
+    thread_ = std::thread([this] {
+      nameThisThread("sim-ticker");
+      run();
+    });
   lk.unlock();
   cv_.notify_all();
   return id;

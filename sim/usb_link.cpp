@@ -7,6 +7,7 @@
 #include <cstring>
 
 #include "link/constants.hpp"
+#include "link/thread_name.hpp"
 #include "sim/links.hpp"
 
 namespace orv::sim::detail {
@@ -96,7 +97,10 @@ UsbLink::UsbLink(std::shared_ptr<UsbPort> port, OnPacket on_packet)
 UsbLink::~UsbLink() { join(); }
 
 void UsbLink::start() {
-  thread_ = std::thread([this] { run(); });
+  thread_ = std::thread([this] {
+    nameThisThread("sim-usb");
+    run();
+  });
 }
 
 void UsbLink::run() {

@@ -10,6 +10,7 @@
 #include "digital/payload.hpp"
 #include "link/convert.hpp"
 #include "link/report.hpp"
+#include "link/thread_name.hpp"
 #include "services/system.hpp"
 
 namespace orv {
@@ -42,6 +43,19 @@ double roundHalfEven(double x, int digits) {
   return std::copysign(r, x);
 }
 
+const double* aiVoltsTable(double ratio) {
+  static std::mutex m;
+  static std::map<double, std::unique_ptr<double[]>> tables;
+  std::lock_guard lk(m);
+  std::unique_ptr<double[]>& t = tables[ratio];
+  if (!t) {
+    t = std::make_unique<double[]>(65536);
+    for (int raw = 0; raw < 65536; ++raw)
+      t[raw] = aiVolts(static_cast<int16_t>(static_cast<uint16_t>(raw)), ratio);
+  }
+  return t.get();
+}
+
 double ai24Value(uint32_t count, int re_port) {
   const double full = re_port == 0 ? 50.0 : 25.0;  // mA or V
   const double v = -full + static_cast<double>(count) * full / 8388608.0;
@@ -50,18 +64,17 @@ double ai24Value(uint32_t count, int re_port) {
 
 namespace {
 
-// A decoded sample travels through its queue as the bytes of its doubles.
-Bytes packSample(const double* v, size_t n) {
-  Bytes b(n * sizeof(double));
-  std::memcpy(b.data(), v, b.size());
-  return b;
-}
-
-void unpackAppend(const Bytes& b, AiSample& out) {
-  const size_t n = b.size() / sizeof(double);
-  const size_t at = out.size();
-  out.resize(at + n);
-  std::memcpy(out.data() + at, b.data(), n * sizeof(double));
+// One queue's next `n` samples for `each`; the blocking twin waits for
+// those another reader took meanwhile, the awaitable one goes without them.
+// Returns how many it took.
+template <class Each>
+size_t takeSamples(const Call& c, SampleQueue& q, size_t n, Each&& each) {
+  size_t got = q.take(n, each);
+  while (got < n && !c.isAwaitable()) {
+    c.waitQueue(q, 1, Clock::time_point::max());
+    got += q.take(n - got, each);
+  }
+  return got;
 }
 
 int64_t portKey(const Value& port) { return port.asInt(); }
@@ -99,12 +112,19 @@ void Doorbell::wait(uint64_t seen, const std::atomic<bool>& stop) {
 
 AIModule::AIModule() {
   ai_lock_.close();  // held from the start: the decoder stands still
-  thread_ = std::thread([this] { decodeLoop(); });
+  thread_ = std::thread([this] {
+    nameThisThread("orv-ai-decode");
+    decodeLoop();
+  });
 }
 
 AIModule::~AIModule() { closeModule(); }
 
 void AIModule::closeModule() noexcept {
+  {
+    std::lock_guard lk(decode_->m);  // waits out a record being decoded where it arrived
+    decode_->dead = true;
+  }
   killed_.store(true);
   putMarkers();
   ai_lock_.forceOpen();
@@ -122,8 +142,14 @@ AIModule::Streams& AIModule::streams() {
     StreamPool& pool = device().streamPool();
     const int cmd = aiStrmCmd();
     auto add = [&](int port, int cs) {
+      const size_t index = streams_.raw.size();
       streams_.raw.push_back(pool.get(StreamKey::triple(cmd, port, cs)));
-      streams_.decoded.push_back(std::make_shared<StreamQueue>(QUEUE_SIZE_MAX));
+      streams_.raw.back()->setListener([st = decode_, bell = bell_, self = this, index] {
+        std::unique_lock lk(st->m, std::try_to_lock);
+        if (lk.owns_lock() && !st->dead && self->decodeWhereArrived(index)) return;
+        bell->ring();  // the decoder thread's turn
+      });
+      streams_.decoded.push_back(std::make_shared<SampleQueue>(QUEUE_SIZE_MAX));
       streams_.dropped.emplace_back(0);
       streams_.dropped_counted.push_back(0);
     };
@@ -149,9 +175,9 @@ void AIModule::closeDecoded() {
   for (auto& q : streams_.decoded) q->close();
 }
 
-// ai_stream_thread: through the gate, one raw record from each raw queue,
-// decoded onto its decoded queue; when every raw queue was empty, it sleeps
-// until a record arrives (the doorbell) or the module closes.
+// ai_stream_thread: through the gate, every record waiting on the raw queues
+// decoded onto their decoded queues; then it sleeps until an arrival the
+// receive thread left to it rings (or the module closes).
 void AIModule::decodeLoop() {
   try {
     while (!killed_.load()) {
@@ -159,61 +185,62 @@ void AIModule::decodeLoop() {
       if (killed_.load()) break;
       Streams& s = streams();
       const uint64_t seen = bell_->seq();
-      bool took = false;
-      for (size_t i = 0; i < s.raw.size(); ++i) {
-        std::optional<Bytes> rec = s.raw[i]->tryPop();
-        if (!rec) continue;
-        took = true;
-        if (rec->empty()) continue;  // a close marker
-        decodeRecord(*rec, i);
+      {
+        std::lock_guard lk(decode_->m);
+        if (decode_->failure) std::rethrow_exception(decode_->failure);
+        for (size_t i = 0; i < s.raw.size(); ++i) decodeWaiting(i);
       }
-      if (!took) sleepUntilRecord(s, seen);
+      warnOverflows();
+      bell_->wait(seen, killed_);
     }
   } catch (const std::exception& e) {
     // A malformed record ends the decoder; readers find no more samples.
+    warnOverflows();
     report::print("Exception in thread ai_stream_thread:");
     report::genericError(e);
   }
   decoder_alive_.store(false);
 }
 
-// Watches every raw queue for one record and sleeps until one rings.
-void AIModule::sleepUntilRecord(Streams& s, uint64_t seen) {
-  std::vector<std::pair<StreamQueue*, uint64_t>> watches;
-  bool ready = false;
-  for (auto& q : s.raw) {
-    const uint64_t id = q->watch(1, [bell = bell_] { bell->ring(); });
-    if (id == 0) {
-      ready = true;  // a record is there already
-      break;
-    }
-    watches.emplace_back(q.get(), id);
+void AIModule::decodeWaiting(size_t index) {
+  StreamQueue& raw = *streams_.raw[index];
+  while (std::optional<Bytes> rec = raw.tryPop())
+    if (!rec->empty()) decodeRecord(*rec, index);  // empty: a close marker
+}
+
+bool AIModule::decodeWhereArrived(size_t index) {
+  if (killed_.load() || decode_->failure || !ai_lock_.isOpen()) return false;
+  try {
+    decodeWaiting(index);
+  } catch (...) {
+    decode_->failure = std::current_exception();
+    return false;
   }
-  if (!ready) bell_->wait(seen, killed_);
-  for (auto& [q, id] : watches) q->unwatch(id);
+  return overflows_.load() == 0;
+}
+
+void AIModule::warnOverflows() {
+  for (uint64_t n = overflows_.exchange(0); n > 0; --n)
+    report::warning(ErrorId::AIQueueOverflowWarning);
 }
 
 void AIModule::decodeRecord(const Bytes& raw, size_t index) {
-  StreamQueue& out = *streams_.decoded[index];
+  SampleQueue& out = *streams_.decoded[index];
   const auto n = static_cast<size_t>(aiNumChannels());
   const size_t width = 2 * n;
   if (n == 0 || raw.size() % width != 0)
     throw IndexError("list index out of range: a stream record of " + std::to_string(raw.size()) +
                      " bytes is no whole number of samples of " + std::to_string(n) + " channels");
-  const double ratio = model().ai.ratio;
-  double v[8];
-  AiSample big;
-  double* dst = n <= 8 ? v : (big.resize(n), big.data());
-  for (size_t at = 0; at < raw.size(); at += width) {
-    for (size_t ch = 0; ch < n; ++ch) {
-      const auto count = static_cast<int16_t>((raw[at + 2 * ch] << 8) | raw[at + 2 * ch + 1]);
-      dst[ch] = aiVolts(count, ratio);
-    }
-    if (!out.push(packSample(dst, n))) {
-      dropped_.fetch_add(1);
-      streams_.dropped[index].fetch_add(1);
-      report::warning(ErrorId::AIQueueOverflowWarning);
-    }
+  const double* volts = aiVoltsTable(model().ai.ratio);
+  const size_t values = raw.size() / 2;
+  decode_buf_.resize(values);
+  for (size_t i = 0; i < values; ++i) decode_buf_[i] = volts[(raw[2 * i] << 8) | raw[2 * i + 1]];
+  const size_t samples = values / n;
+  const size_t lost = samples - out.push(decode_buf_.data(), samples, n);
+  if (lost > 0) {
+    dropped_.fetch_add(lost);
+    streams_.dropped[index].fetch_add(lost);
+    overflows_.fetch_add(lost);
   }
 }
 
@@ -541,21 +568,12 @@ int64_t AIModule::samplesToTake(const Call& c, const ReadPlan& plan, int64_t num
   if (delay > 0 && num_samples > 0) {
     const auto deadline = Clock::now() + std::chrono::duration_cast<Clock::duration>(
                                              std::chrono::duration<double>(std::min(delay, 1e9)));
-    for (StreamQueue* q : plan.queues) c.waitQueue(*q, static_cast<size_t>(num_samples), deadline);
+    for (SampleQueue* q : plan.queues) c.waitQueue(*q, static_cast<size_t>(num_samples), deadline);
     int64_t n_min = 2147483648;
-    for (StreamQueue* q : plan.queues) n_min = std::min(n_min, static_cast<int64_t>(q->size()));
+    for (SampleQueue* q : plan.queues) n_min = std::min(n_min, static_cast<int64_t>(q->size()));
     samp_count = n_min;
   }
   return std::min(num_samples, samp_count);
-}
-
-std::optional<Bytes> AIModule::takeSample(const Call& c, StreamQueue& q) {
-  std::optional<Bytes> item = q.tryPop();
-  while (!item && !c.isAwaitable()) {
-    c.waitQueue(q, 1, Clock::time_point::max());
-    item = q.tryPop();
-  }
-  return item;
 }
 
 void AIModule::countReadDrops(const ReadPlan& plan) {
@@ -586,37 +604,53 @@ size_t AIModule::AI_sampleWidth(const Value& port_in) {
 AiSamples AIModule::AI_readStreaming(const Call& c, const Value& port, int64_t num_samples,
                                      double delay) {
   const ReadPlan plan = planRead(port);
-  const int64_t take = samplesToTake(c, plan, num_samples, delay);
+  const auto take =
+      static_cast<size_t>(std::max<int64_t>(samplesToTake(c, plan, num_samples, delay), 0));
   AiSamples out;
-  for (int64_t i = 0; i < take; ++i) {
-    AiSample sample;
-    for (StreamQueue* q : plan.queues)
-      if (std::optional<Bytes> item = takeSample(c, *q)) unpackAppend(*item, sample);
-    out.push_back(std::move(sample));
+  out.reserve(take);
+  if (plan.queues.size() == 1) {
+    takeSamples(c, *plan.queues[0], take, [&](auto b, auto e) { out.emplace_back(b, e); });
+    out.resize(take);  // the awaitable twin's samples another reader took: empty
+  } else {
+    for (size_t i = 0; i < take; ++i) {
+      AiSample& sample = out.emplace_back();
+      for (SampleQueue* q : plan.queues)
+        takeSamples(c, *q, 1, [&](auto b, auto e) { sample.insert(sample.end(), b, e); });
+    }
   }
   countReadDrops(plan);
   return out;
 }
 
 // `take` samples of the plan's queues into rows of `width` values at `out`.
+// A sample of another width (decoded under an earlier channel count) does not
+// fit a row: it is taken and left out.
 size_t AIModule::fillRows(const Call& c, const ReadPlan& plan, int64_t take, double* out,
                           size_t width) {
   size_t written = 0;
+  if (take <= 0) return 0;
+  if (plan.queues.size() == 1) {
+    takeSamples(c, *plan.queues[0], static_cast<size_t>(take), [&](auto b, auto e) {
+      if (static_cast<size_t>(e - b) != width) return;
+      std::copy(b, e, out + written * width);
+      ++written;
+    });
+    return written;
+  }
   for (int64_t i = 0; i < take; ++i) {
     double* row = out + written * width;
     size_t filled = 0;
     bool fits = true;
-    for (StreamQueue* q : plan.queues) {
-      std::optional<Bytes> item = takeSample(c, *q);
-      if (!item) continue;
-      const size_t n = item->size() / sizeof(double);
-      if (!fits || filled + n > width) {
-        fits = false;
-        continue;
-      }
-      std::memcpy(row + filled, item->data(), n * sizeof(double));
-      filled += n;
-    }
+    for (SampleQueue* q : plan.queues)
+      takeSamples(c, *q, 1, [&](auto b, auto e) {
+        const auto n = static_cast<size_t>(e - b);
+        if (!fits || filled + n > width) {
+          fits = false;
+          return;
+        }
+        std::copy(b, e, row + filled);
+        filled += n;
+      });
     if (fits && filled == width) ++written;
   }
   return written;

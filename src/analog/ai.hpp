@@ -5,6 +5,11 @@
 // per instant, one value per channel) on bounded queues that
 // AI_readStreaming empties.
 //
+// Where a record is decoded: on the thread that receives it, as it arrives,
+// while the gate is open and nothing else decodes; otherwise by the decoder
+// thread, which the arrival wakes.  Either way under one lock, in the order
+// the records came.
+//
 // Streams: one (raw queue, decoded queue) pair, or on a slotted model
 // (Trellis) nine, for port 0, 1, 3 and chip select 0, 1, 2, at the index
 // _AI_changePortToIndex gives.  The raw queues are the device's stream
@@ -20,6 +25,7 @@
 #include <condition_variable>
 #include <cstdint>
 #include <deque>
+#include <exception>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -28,6 +34,7 @@
 #include <thread>
 #include <vector>
 
+#include "analog/sample_queue.hpp"
 #include "link/call.hpp"
 #include "link/device.hpp"
 #include "link/value.hpp"
@@ -57,6 +64,9 @@ inline constexpr int READAI24BIT = 8196;
 double roundHalfEven(double x, int digits);
 // One raw signed 16-bit count in volts: round(count * ratio, 4).
 inline double aiVolts(int16_t count, double ratio) { return roundHalfEven(count * ratio, 4); }
+// aiVolts of every count, made once per ratio (512 KiB), indexed by the
+// count's 16 bits as sent: the decoder looks each value up.
+const double* aiVoltsTable(double ratio);
 // A 24-bit offset-binary count (2^23 is zero) of the given port: current in
 // mA on port 0, volts otherwise, round(..., 3).
 double ai24Value(uint32_t count, int re_port);
@@ -161,7 +171,8 @@ class AIModule : public ModuleBase {
 
  private:
   struct Streams {
-    std::vector<std::shared_ptr<StreamQueue>> raw, decoded;
+    std::vector<std::shared_ptr<StreamQueue>> raw;
+    std::vector<std::shared_ptr<SampleQueue>> decoded;
     // Per index: samples its decoded queue dropped, and how many of them a
     // read of its port has counted (under read_m_).
     std::deque<std::atomic<uint64_t>> dropped;
@@ -171,23 +182,27 @@ class AIModule : public ModuleBase {
   struct ReadPlan {
     int64_t port = 0;
     std::vector<size_t> indices;
-    std::vector<StreamQueue*> queues;
+    std::vector<SampleQueue*> queues;
   };
   ReadPlan planRead(const Value& port_in);
   // Waits as AI_readStreaming does and returns how many samples to take.
   int64_t samplesToTake(const Call& c, const ReadPlan& plan, int64_t num_samples, double delay);
-  // One queue's next sample; the blocking twin waits for one another reader
-  // took meanwhile, the awaitable one answers nullopt.
-  static std::optional<Bytes> takeSample(const Call& c, StreamQueue& q);
   size_t fillRows(const Call& c, const ReadPlan& plan, int64_t take, double* out, size_t width);
   // Counts the drops of the plan's streams up to now as the port's latest read's.
   void countReadDrops(const ReadPlan& plan);
   // Made on first use: the model's row is not there while modules construct.
   Streams& streams();
   void decodeLoop();
-  void sleepUntilRecord(Streams& s, uint64_t seen);
-  // One raw record into samples on `out`.
+  // Every record waiting on the raw queue at `index`, decoded; under decode_->m.
+  void decodeWaiting(size_t index);
+  // The receive thread's turn at a record that just arrived, under
+  // decode_->m; false when it is the decoder thread's (gate closed, module
+  // closing, a failure to report).
+  bool decodeWhereArrived(size_t index);
+  // One raw record into samples on its decoded queue; samples that do not
+  // fit are counted in overflows_ for the decoder thread to warn of.
   void decodeRecord(const Bytes& raw, size_t index);
+  void warnOverflows();
   std::vector<int64_t>& chipSelectRef(int64_t port);
   void putMarkers();
   void closeDecoded();
@@ -208,6 +223,16 @@ class AIModule : public ModuleBase {
   std::atomic<bool> streams_made_{false};
   Streams streams_;
   std::once_flag join_once_;
+  // Held by whichever thread decodes; shared with the raw queues' listeners,
+  // which check `dead` before they touch the module.
+  struct DecodeState {
+    std::mutex m;
+    bool dead = false;
+    std::exception_ptr failure;  // a record the receive thread could not decode
+  };
+  std::shared_ptr<DecodeState> decode_ = std::make_shared<DecodeState>();
+  std::vector<double> decode_buf_;  // one record's values, under decode_->m
+  std::atomic<uint64_t> overflows_{0};
   std::thread thread_;
 };
 ORV_MODULE_CLASS("AI", AIModule);

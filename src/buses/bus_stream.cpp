@@ -7,6 +7,7 @@
 
 #include "link/convert.hpp"
 #include "link/report.hpp"
+#include "link/thread_name.hpp"
 #include "services/system.hpp"
 
 namespace orv {
@@ -15,7 +16,10 @@ void BusStream::start(std::shared_ptr<StreamQueue> data, const std::atomic<bool>
                       Sink sink) {
   data_ = std::move(data);
   sink_ = std::move(sink);
-  thread_ = std::thread([this, &killed] { run(killed); });
+  thread_ = std::thread([this, &killed] {
+    nameThisThread("orv-bus-stream");
+    run(killed);
+  });
 }
 
 void BusStream::pushMarker() {

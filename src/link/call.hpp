@@ -74,7 +74,7 @@ class Call {
   // Until q holds n items (true) or the deadline passes (false); the
   // awaitable parks its fiber meanwhile.  Cancelled on Ctrl-C or a cancelled
   // task, DeviceClosedError when the queue closes with the device.
-  bool waitQueue(StreamQueue& q, size_t n, Clock::time_point deadline) const {
+  bool waitQueue(WaitableQueue& q, size_t n, Clock::time_point deadline) const {
     return Device::waitQueue(q, n, deadline, tok_);
   }
 

@@ -9,6 +9,7 @@
 #include "link/interrupt.hpp"
 #include "link/report.hpp"
 #include "link/stream_route.hpp"
+#include "link/thread_name.hpp"
 
 namespace orv {
 
@@ -178,7 +179,10 @@ bool Device::closeBase() {
 
 void Device::startThread(Link& link) {
   link.alive = true;
-  link.thread = std::thread([this, &link] { recvLoop(link); });
+  link.thread = std::thread([this, &link] {
+    nameThisThread("orv-receive");
+    recvLoop(link);
+  });
 }
 
 void Device::dispatch(Link& link, Client& client, const Bytes& raw) {
@@ -420,17 +424,17 @@ void Device::pauseUntil(Clock::time_point deadline, CancelToken* tok) {
   if (r != EchoPool::WaitResult::TimedOut) waitFailed(r);
 }
 
-bool Device::waitQueue(StreamQueue& q, size_t n, Clock::time_point deadline, CancelToken* tok) {
+bool Device::waitQueue(WaitableQueue& q, size_t n, Clock::time_point deadline, CancelToken* tok) {
   const auto r =
       Fiber::current() ? fiberWaitQueue(q, n, deadline, tok) : q.waitSize(n, deadline, tok);
   switch (r) {
-    case StreamQueue::Wait::Ready:
+    case WaitableQueue::Wait::Ready:
       return true;
-    case StreamQueue::Wait::TimedOut:
+    case WaitableQueue::Wait::TimedOut:
       return false;
-    case StreamQueue::Wait::Cancelled:
+    case WaitableQueue::Wait::Cancelled:
       throw Cancelled();
-    case StreamQueue::Wait::Closed:
+    case WaitableQueue::Wait::Closed:
       break;
   }
   raise(ErrorId::DeviceClosedError);

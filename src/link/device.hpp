@@ -158,7 +158,7 @@ class Device {
   // Until q holds n items (true) or the deadline (false), for a thread or an
   // awaitable's fiber alike.  A cancel throws Cancelled, the queue's close
   // DeviceClosedError.
-  static bool waitQueue(StreamQueue& q, size_t n, Clock::time_point deadline,
+  static bool waitQueue(WaitableQueue& q, size_t n, Clock::time_point deadline,
                         CancelToken* tok = nullptr);
   // Items of a stream queue, flattened; num_samples -1 takes what is there.
   Bytes getStreamingFromPool(StreamQueue& q, int64_t num_samples, double delay,

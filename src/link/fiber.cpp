@@ -337,8 +337,8 @@ EchoPool::WaitResult fiberWait(EchoPool& pool, int64_t key, Clock::time_point de
 // A stream queue's wait: the fiber parks until the queue holds n items, is
 // closed, the deadline comes or the call is cancelled, whichever is first, and
 // then looks at the queue itself, so items that came meanwhile always win.
-StreamQueue::Wait waitQueueOnce(StreamQueue& q, size_t n, Clock::time_point deadline,
-                                CancelToken* tok) {
+WaitableQueue::Wait waitQueueOnce(WaitableQueue& q, size_t n, Clock::time_point deadline,
+                                  CancelToken* tok) {
   Fiber* f = Fiber::current();
   auto w = std::make_shared<FiberWait>();
   w->fiber = f;
@@ -348,7 +348,7 @@ StreamQueue::Wait waitQueueOnce(StreamQueue& q, size_t n, Clock::time_point dead
   };
   const uint64_t watch = q.watch(n, [reactor, wake] { reactor->post(wake); });
   if (watch == 0)
-    return q.closed() && q.size() < n ? StreamQueue::Wait::Closed : StreamQueue::Wait::Ready;
+    return q.closed() && q.size() < n ? WaitableQueue::Wait::Closed : WaitableQueue::Wait::Ready;
   const uint64_t timer = deadline == Clock::time_point::max() ? 0 : reactor->callAt(deadline, wake);
   if (tok) tok->setWaker([reactor, wake] { reactor->post(wake); });
   if (tok && tok->cancelled()) reactor->post(wake);
@@ -358,24 +358,24 @@ StreamQueue::Wait waitQueueOnce(StreamQueue& q, size_t n, Clock::time_point dead
   if (tok) tok->setWaker(nullptr);
   if (timer) reactor->cancelTimer(timer);
   q.unwatch(watch);
-  if (q.size() >= n) return StreamQueue::Wait::Ready;
-  if (tok && tok->cancelled()) return StreamQueue::Wait::Cancelled;
-  if (q.closed()) return StreamQueue::Wait::Closed;
-  return Clock::now() >= deadline ? StreamQueue::Wait::TimedOut : StreamQueue::Wait::Ready;
+  if (q.size() >= n) return WaitableQueue::Wait::Ready;
+  if (tok && tok->cancelled()) return WaitableQueue::Wait::Cancelled;
+  if (q.closed()) return WaitableQueue::Wait::Closed;
+  return Clock::now() >= deadline ? WaitableQueue::Wait::TimedOut : WaitableQueue::Wait::Ready;
 }
 
 }  // namespace
 
-StreamQueue::Wait fiberWaitQueue(StreamQueue& q, size_t n, Clock::time_point deadline,
-                                 CancelToken* tok) {
+WaitableQueue::Wait fiberWaitQueue(WaitableQueue& q, size_t n, Clock::time_point deadline,
+                                   CancelToken* tok) {
   for (;;) {
-    if (q.size() >= n) return StreamQueue::Wait::Ready;
-    if (tok && tok->cancelled()) return StreamQueue::Wait::Cancelled;
-    if (q.closed()) return StreamQueue::Wait::Closed;
-    if (Clock::now() >= deadline) return StreamQueue::Wait::TimedOut;
+    if (q.size() >= n) return WaitableQueue::Wait::Ready;
+    if (tok && tok->cancelled()) return WaitableQueue::Wait::Cancelled;
+    if (q.closed()) return WaitableQueue::Wait::Closed;
+    if (Clock::now() >= deadline) return WaitableQueue::Wait::TimedOut;
     const auto r = waitQueueOnce(q, n, deadline, tok);
     // A wake that finds fewer items (another reader took them) waits again.
-    if (r != StreamQueue::Wait::Ready || q.size() >= n) return r;
+    if (r != WaitableQueue::Wait::Ready || q.size() >= n) return r;
   }
 }
 

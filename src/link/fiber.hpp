@@ -126,7 +126,7 @@ class Fiber {
 EchoPool::WaitResult fiberWaitPop(EchoPool& pool, int64_t key, Clock::time_point deadline,
                                   Bytes& out, CancelToken* tok);
 EchoPool::WaitResult fiberSleepUntil(EchoPool& pool, Clock::time_point deadline, CancelToken* tok);
-StreamQueue::Wait fiberWaitQueue(StreamQueue& q, size_t n, Clock::time_point deadline,
-                                 CancelToken* tok);
+WaitableQueue::Wait fiberWaitQueue(WaitableQueue& q, size_t n, Clock::time_point deadline,
+                                   CancelToken* tok);
 
 }  // namespace orv

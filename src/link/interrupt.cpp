@@ -9,6 +9,8 @@
 #include <mutex>
 #include <thread>
 
+#include "link/thread_name.hpp"
+
 namespace orv::interrupt {
 
 namespace {
@@ -104,7 +106,10 @@ void install(Hook hook) {
     std::lock_guard lk(g_m);
     if (!g_watcher.joinable()) {
       g_stop = false;
-      g_watcher = std::thread(watch);
+      g_watcher = std::thread([] {
+        nameThisThread("orv-sigint");
+        watch();
+      });
     }
   }
   g_installed.store(true);

@@ -186,25 +186,21 @@ void EchoPool::wakeAll() {
   cv_.notify_all();
 }
 
-// ---- StreamQueue -------------------------------------------------------------
+// ---- WaitableQueue -----------------------------------------------------------
 
-bool StreamQueue::push(Bytes item) {
+void WaitableQueue::added(std::unique_lock<std::mutex>& lk) {
   std::vector<std::function<void()>> due;
-  {
-    std::lock_guard lk(m_);
-    if (max_ != 0 && q_.size() >= max_) return false;
-    q_.push_back(std::move(item));
-    if (!watches_.empty()) due = takeDueWatches();
-  }
+  if (!watches_.empty()) due = takeDueWatches();
+  lk.unlock();
   cv_.notify_all();
   for (auto& fn : due) fn();
-  return true;
 }
 
-std::vector<std::function<void()>> StreamQueue::takeDueWatches() {
+std::vector<std::function<void()>> WaitableQueue::takeDueWatches() {
   std::vector<std::function<void()>> due;
+  const size_t count = countLocked();
   for (auto it = watches_.begin(); it != watches_.end();) {
-    if (closed_ || q_.size() >= it->n) {
+    if (closed_ || count >= it->n) {
       due.push_back(std::move(it->fn));
       it = watches_.erase(it);
     } else {
@@ -214,22 +210,76 @@ std::vector<std::function<void()>> StreamQueue::takeDueWatches() {
   return due;
 }
 
-uint64_t StreamQueue::watch(size_t n, std::function<void()> fn) {
+uint64_t WaitableQueue::watch(size_t n, std::function<void()> fn) {
   std::lock_guard lk(m_);
-  if (closed_ || q_.size() >= n) return 0;
+  if (closed_ || countLocked() >= n) return 0;
   const uint64_t id = next_watch_++;
   watches_.push_back({id, n, std::move(fn)});
   return id;
 }
 
-void StreamQueue::unwatch(uint64_t id) {
+void WaitableQueue::unwatch(uint64_t id) {
   std::lock_guard lk(m_);
   std::erase_if(watches_, [id](const Watch& w) { return w.id == id; });
 }
 
-bool StreamQueue::closed() const {
+bool WaitableQueue::closed() const {
   std::lock_guard lk(m_);
   return closed_;
+}
+
+size_t WaitableQueue::size() const {
+  std::lock_guard lk(m_);
+  return countLocked();
+}
+
+WaitableQueue::Wait WaitableQueue::waitSize(size_t n, Clock::time_point deadline,
+                                            CancelToken* tok) {
+  WakerScope ws(tok, [this] {
+    { std::lock_guard lk(m_); }
+    cv_.notify_all();
+  });
+  std::unique_lock lk(m_);
+  for (;;) {
+    if (countLocked() >= n) return Wait::Ready;
+    if (ws.signalled(lk)) continue;
+    if (tok && tok->cancelled()) return Wait::Cancelled;
+    if (closed_) return Wait::Closed;
+    if (deadline == Clock::time_point::max()) {
+      cv_.wait(lk);
+      continue;
+    }
+    if (Clock::now() >= deadline) return Wait::TimedOut;
+    cv_.wait_until(lk, deadline);
+  }
+}
+
+void WaitableQueue::close() {
+  std::vector<std::function<void()>> due;
+  {
+    std::lock_guard lk(m_);
+    closed_ = true;
+    due = takeDueWatches();
+  }
+  cv_.notify_all();
+  for (auto& fn : due) fn();
+}
+
+// ---- StreamQueue -------------------------------------------------------------
+
+bool StreamQueue::push(Bytes item) {
+  std::unique_lock lk(m_);
+  if (max_ != 0 && q_.size() >= max_) return false;
+  q_.push_back(std::move(item));
+  const auto listener = listener_;
+  added(lk);
+  if (listener) (*listener)();
+  return true;
+}
+
+void StreamQueue::setListener(std::function<void()> fn) {
+  std::lock_guard lk(m_);
+  listener_ = fn ? std::make_shared<const std::function<void()>>(std::move(fn)) : nullptr;
 }
 
 std::optional<Bytes> StreamQueue::tryPop() {
@@ -258,45 +308,9 @@ std::optional<Bytes> StreamQueue::popWait(Clock::time_point deadline, CancelToke
   }
 }
 
-StreamQueue::Wait StreamQueue::waitSize(size_t n, Clock::time_point deadline, CancelToken* tok) {
-  WakerScope ws(tok, [this] {
-    { std::lock_guard lk(m_); }
-    cv_.notify_all();
-  });
-  std::unique_lock lk(m_);
-  for (;;) {
-    if (q_.size() >= n) return Wait::Ready;
-    if (ws.signalled(lk)) continue;
-    if (tok && tok->cancelled()) return Wait::Cancelled;
-    if (closed_) return Wait::Closed;
-    if (deadline == Clock::time_point::max()) {
-      cv_.wait(lk);
-      continue;
-    }
-    if (Clock::now() >= deadline) return Wait::TimedOut;
-    cv_.wait_until(lk, deadline);
-  }
-}
-
-size_t StreamQueue::size() const {
-  std::lock_guard lk(m_);
-  return q_.size();
-}
-
 void StreamQueue::clear() {
   std::lock_guard lk(m_);
   q_.clear();
-}
-
-void StreamQueue::close() {
-  std::vector<std::function<void()>> due;
-  {
-    std::lock_guard lk(m_);
-    closed_ = true;
-    due = takeDueWatches();
-  }
-  cv_.notify_all();
-  for (auto& fn : due) fn();
 }
 
 // ---- StreamPool --------------------------------------------------------------

@@ -105,15 +105,13 @@ struct StreamKey {
   static StreamKey triple(int c, int p, int s) { return {c, p, s, 3}; }
 };
 
-// An unbounded (or bounded) thread-safe FIFO of byte records.
-class StreamQueue {
+// What every queue a reader waits on has: its length, its close, a wait for
+// a length and a watch for a waiter that is not a thread.  A queue keeps its
+// items its own way and says how many it holds (countLocked); after adding
+// items it calls added() so that waiters and watches see them.
+class WaitableQueue {
  public:
-  explicit StreamQueue(size_t max_size = 0) : max_(max_size) {}
-  // False when the queue is bounded and full (the record is dropped).
-  bool push(Bytes item);
-  std::optional<Bytes> tryPop();
-  // Waits for an item until deadline; nullopt on timeout, cancel or close.
-  std::optional<Bytes> popWait(Clock::time_point deadline, CancelToken* tok = nullptr);
+  virtual ~WaitableQueue() = default;
   // How a wait for a number of items ended.
   enum class Wait { Ready, TimedOut, Cancelled, Closed };
   // Sleeps the calling thread until size() >= n (Ready), the deadline, a
@@ -131,12 +129,19 @@ class StreamQueue {
   void unwatch(uint64_t id);
   size_t size() const;
   bool closed() const;
-  void clear();
   void close();  // wakes waiters for good
 
- private:
+ protected:
+  virtual size_t countLocked() const = 0;
+  // Items were added under `lk`: wakes the waiters and runs the watches now
+  // due, after unlocking.
+  void added(std::unique_lock<std::mutex>& lk);
+
   mutable std::mutex m_;
   std::condition_variable cv_;
+  bool closed_ = false;
+
+ private:
   struct Watch {
     uint64_t id;
     size_t n;
@@ -145,11 +150,31 @@ class StreamQueue {
   // The watches whose condition holds now, taken out; under m_.
   std::vector<std::function<void()>> takeDueWatches();
 
-  std::deque<Bytes> q_;
-  size_t max_;
-  bool closed_ = false;
   std::vector<Watch> watches_;
   uint64_t next_watch_ = 1;
+};
+
+// An unbounded (or bounded) thread-safe FIFO of byte records.
+class StreamQueue : public WaitableQueue {
+ public:
+  explicit StreamQueue(size_t max_size = 0) : max_(max_size) {}
+  // False when the queue is bounded and full (the record is dropped).
+  bool push(Bytes item);
+  std::optional<Bytes> tryPop();
+  // Waits for an item until deadline; nullopt on timeout, cancel or close.
+  std::optional<Bytes> popWait(Clock::time_point deadline, CancelToken* tok = nullptr);
+  void clear();
+  // Runs `fn` after every push, on the pushing thread and without the
+  // queue's lock: a consumer that takes records where they arrive, instead
+  // of being woken for each.  An empty `fn` removes it.
+  void setListener(std::function<void()> fn);
+
+ private:
+  size_t countLocked() const override { return q_.size(); }
+
+  std::deque<Bytes> q_;
+  size_t max_;
+  std::shared_ptr<const std::function<void()>> listener_;
 };
 
 class StreamPool {

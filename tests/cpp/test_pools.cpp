@@ -7,6 +7,7 @@
 #include <chrono>
 #include <thread>
 
+#include "analog/sample_queue.hpp"
 #include "link/device.hpp"
 #include "link/error.hpp"
 #include "link/interrupt.hpp"
@@ -131,6 +132,39 @@ TEST(StreamQueue, WaitSizeAndBound) {
   t.join();
   q.close();
   EXPECT_FALSE(q.waitSize(10));
+}
+
+// Decoded samples: flat values in runs of one width, bounded in samples, and
+// a watch that fires once a push brings the count it waits for.
+TEST(SampleQueue, RunsOfWidthsBoundAndWatch) {
+  SampleQueue q(4);
+  const double eight[24] = {0,  1,  2,  3,  4,  5,  6,  7,  10, 11, 12, 13,
+                            14, 15, 16, 17, 20, 21, 22, 23, 24, 25, 26, 27};
+  const double four[8] = {30, 31, 32, 33, 40, 41, 42, 43};
+  bool fired = false;
+  EXPECT_NE(q.watch(4, [&] { fired = true; }), 0u);
+  EXPECT_EQ(q.push(eight, 3, 8), 3u);
+  EXPECT_FALSE(fired);
+  EXPECT_EQ(q.push(four, 2, 4), 1u);  // one fits the bound, one is left out
+  EXPECT_TRUE(fired);
+  EXPECT_EQ(q.size(), 4u);
+
+  std::vector<std::vector<double>> got;
+  auto each = [&](auto b, auto e) { got.emplace_back(b, e); };
+  EXPECT_EQ(q.take(2, each), 2u);
+  EXPECT_EQ(q.take(10, each), 2u);  // across the change of width
+  ASSERT_EQ(got.size(), 4u);
+  EXPECT_EQ(got[1], std::vector<double>(eight + 8, eight + 16));
+  EXPECT_EQ(got[2], std::vector<double>(eight + 16, eight + 24));
+  EXPECT_EQ(got[3], std::vector<double>(four, four + 4));
+  EXPECT_EQ(q.size(), 0u);
+  EXPECT_EQ(q.take(1, each), 0u);
+
+  EXPECT_EQ(q.push(four + 4, 1, 4), 1u);  // the queue works on after draining
+  q.take(1, each);
+  EXPECT_EQ(got.back(), std::vector<double>(four + 4, four + 8));
+  q.close();
+  EXPECT_EQ(q.waitSize(1, Clock::now() + 1s), WaitableQueue::Wait::Closed);
 }
 
 TEST(Routing, StreamRecordsGoToTheirKeyWithoutTheKeyBytes) {
