@@ -1,6 +1,6 @@
 """Drive_position_blending: give a moving MerlinDrive stepper a new target.
 
-Starts toward 8000 steps; once the drive is past 2000 the target becomes
+Starts toward 20000 steps; once the drive is past 2000 the target becomes
 5000.  The drive's firmware runs one move at a time and refuses a start
 while one runs (the example prints that status), so the running move is
 stopped and the new one started at once from where the motor is.
@@ -41,7 +41,7 @@ def main():
     with _target.open_device(pyorv.MerlinDrive, args) as dev:
         dev.Motion_open(PORT)
         dev.Motion_rstEncoderPosi(PORT, 0)
-        dev.Motion_startPositionMove(PORT, 8000, 20000, 100000, 100000, 0)
+        dev.Motion_startPositionMove(PORT, 20000, 20000, 100000, 100000, 0)
         deadline = time.monotonic() + 10.0
         while position(dev) < 2000:
             if time.monotonic() > deadline or dev.Motion_getProcessState(PORT) == 0:

@@ -20,7 +20,7 @@ import _target  # noqa: E402  examples/_target.py: the simulator, or --usb/--ip 
 import pyorv  # noqa: E402
 
 PORT = 0
-MOVES = {0: (6000, 100000), 1: (-2000, 20000), 2: (3000, 60000)}  # target, speed
+MOVES = {0: (8000, 20000), 1: (-2000, 10000), 2: (3000, 100000)}  # target, speed
 
 
 def wait_done(dev, axes, seconds=10.0):

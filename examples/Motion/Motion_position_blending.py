@@ -1,7 +1,7 @@
 """Motion_position_blending: change an axis's target while it is moving.
 
-Axis 0 starts toward 20000; once past 5000 its finish point is moved to
-12000, and the chip runs on to the new target without stopping first.
+Axis 0 starts toward 40000; once past 5000 its finish point is moved to
+30000, and the chip runs on to the new target without stopping first.
 
     python examples/Motion/Motion_position_blending.py [--ip HOST] [--quick]
 
@@ -17,7 +17,7 @@ import _target  # noqa: E402  examples/_target.py: the simulator, or --usb/--ip 
 import pyorv  # noqa: E402
 
 PORT, AXIS = 0, 0
-FIRST, SECOND = 20000, 12000
+FIRST, SECOND = 40000, 30000
 
 
 def wait_done(dev, axes, seconds=10.0):
