@@ -14,7 +14,7 @@ sends itself as 0x7E8 passes the filter.
 import os
 import sys
 import asyncio
-import threading
+import concurrent.futures
 
 sys.path.insert(0, os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 import _target  # noqa: E402  examples/_target.py: the simulator, or --usb/--ip hardware
@@ -29,29 +29,26 @@ def hexes(data):
 def read_within(dev, read, seconds):
     """Runs a blocking read, which waits until all it asked for has come; if
     that takes longer than `seconds`, closing the device ends the wait."""
-    got = []
-
-    def reader():
+    with concurrent.futures.ThreadPoolExecutor(1) as pool:
+        pending = pool.submit(read)
         try:
-            got.append(read())
-        except pyorv.DeviceClosedError:
-            pass
+            return pending.result(seconds)
+        except concurrent.futures.TimeoutError:
+            dev.close()                           # the read ends with DeviceClosedError
+            return None
 
-    worker = threading.Thread(target=reader)
-    worker.start()
-    worker.join(seconds)
-    if worker.is_alive():
-        dev.close()
-        worker.join()
-    return got[0] if got else None
+
+def simulated(sim_dev):
+    """The simulated device's side (not used with real hardware)."""
+    sim_dev.state_set("can.loopback", True)
 
 
 def main():
     args = _target.parse(__doc__)
-    with _target.open_device(pyorv.PloverCan, args, sim_state=lambda s: s.state_set("can.loopback", True)) as dev:
+    with _target.open_device(pyorv.PloverCan, args, sim_state=simulated) as dev:
         dev.CAN_open(PORT)
         dev.CAN_setRXFilterOrMask(PORT, 0, 0x7E8)         # filter 0: the identifier ...
-        dev.CAN_setRXFilterOrMask(PORT, 1, 0x7F8)         # ... and its mask: the low 3 bits are free
+        dev.CAN_setRXFilterOrMask(PORT, 1, 0x7F8)         # ... its mask: the low 3 bits are free
         dev.CAN_setRXFilteringOn(PORT, True)
         asyncio.run(dev.CAN_start_async(PORT))            # the start has no answer to wait for
         dev.CAN_write(PORT, 0x7DF, [0x02, 0x01, 0x0C])    # request: engine speed

@@ -37,9 +37,14 @@ def position(dev):
     return value - 2**32 if value >= 2**31 else value
 
 
+def simulated(sim_dev):
+    """The simulated device's side (not used with real hardware)."""
+    sim_dev.state_set("tmc5240.home_at", -600)
+
+
 def main():
     args = _target.parse(__doc__)
-    with _target.open_device(pyorv.MerlinDrive, args, sim_state=lambda s: s.state_set("tmc5240.home_at", -600)) as dev:
+    with _target.open_device(pyorv.MerlinDrive, args, sim_state=simulated) as dev:
         dev.Motion_open(PORT)
         # searching and approaching speed, acceleration, search direction -1 (reverse),
         # approach direction 1 (forward), offset 40 steps, reset the position ("true")

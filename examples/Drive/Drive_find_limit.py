@@ -36,9 +36,14 @@ def position(dev):
     return value - 2**32 if value >= 2**31 else value
 
 
+def simulated(sim_dev):
+    """The simulated device's side (not used with real hardware)."""
+    sim_dev.state_set("tmc5240.limit_reverse_at", -800)
+
+
 def main():
     args = _target.parse(__doc__)
-    with _target.open_device(pyorv.MerlinDrive, args, sim_state=lambda s: s.state_set("tmc5240.limit_reverse_at", -800)) as dev:
+    with _target.open_device(pyorv.MerlinDrive, args, sim_state=simulated) as dev:
         dev.Motion_open(PORT)
         dev.Motion_cfgLimit(PORT, 1, 1, 1)                # forward and reverse on, active high
         dev.Motion_rstEncoderPosi(PORT, 0)

@@ -41,12 +41,13 @@ def main():
         dev.Motion_open(PORT)
         dev.Motion_rstEncoderPosi(PORT, 0)
         dev.Motion_enableServoOn(PORT)
-        # position, speed steps/s, acceleration and deceleration steps/s2, mode 0 absolute / 1 relative
+        # position, speed steps/s, acceleration and deceleration steps/s2,
+        # mode 0 absolute / 1 relative
         for target, mode in ((5000, 0), (-2000, 1)):
             status = dev.Motion_startPositionMove(PORT, target, 20000, 100000, 100000, mode)
             wait_idle(dev)
-            print(f"{'relative move by' if mode else 'absolute move to'} {target}: status {status}, "
-                  f"now at {position(dev)}")
+            what = "relative move by" if mode else "absolute move to"
+            print(f"{what} {target}: status {status}, now at {position(dev)}")
         dev.Motion_enableServoOff(PORT)
         dev.Motion_close(PORT)
 

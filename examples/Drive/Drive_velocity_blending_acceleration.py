@@ -1,4 +1,4 @@
-"""Drive_velocity_blending_acceleration: change speed, ramps and direction of a running MerlinDrive stepper.
+"""Drive_velocity_blending_acceleration: change the speed, ramps and direction of a running stepper.
 
 Runs forward at 2000 steps/s, then at 6000 steps/s with steeper ramps, then
 backward at 3000 steps/s.  The drive's firmware runs one move at a time, so

@@ -28,13 +28,19 @@ def hexes(data):
     return " ".join(f"{b:02X}" for b in data)
 
 
+def simulated(sim_dev):
+    """The simulated device's side (not used with real hardware)."""
+    sim_dev.state_set("i2c.lm75.temp", 23.5)
+
+
 def main():
     args = _target.parse(__doc__)
-    with _target.open_device(pyorv.PloverDio, args, sim_state=lambda s: s.state_set("i2c.lm75.temp", 23.5)) as dev:
+    with _target.open_device(pyorv.PloverDio, args, sim_state=simulated) as dev:
         dev.I2C_open(PORT)
         dev.I2C_setClockRate(PORT, 0)                     # 0: 100 kHz
         dev.I2C_setAddressSize(PORT, 0)                   # 0: 7-bit addresses
-        print(f"EEPROM write at 0x10: {hexes(DATA)}, status {dev.I2C_write(PORT, EEPROM, [0x10] + DATA)}")
+        status = dev.I2C_write(PORT, EEPROM, [0x10] + DATA)  # word address, then the data
+        print(f"EEPROM write at 0x10: {hexes(DATA)}, status {status}")
         time.sleep(0.01)                                  # the EEPROM's write cycle (5 ms)
         dev.I2C_write(PORT, EEPROM, [0x10])               # the word address to read from
         print(f"EEPROM read from 0x10: {hexes(dev.I2C_read(PORT, EEPROM, len(DATA)))}")

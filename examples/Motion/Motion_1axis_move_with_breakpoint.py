@@ -42,7 +42,7 @@ def main():
         dev.Motion_cfgAxisMove(PORT, AXIS, 0, TARGET, 100000, 1000000, 1000000)
         dev.Motion_startSingleAxisMove(PORT, AXIS)
         wait_done(dev, [AXIS])
-        print(f"axis {AXIS}: passed the break point, now at {dev.Motion_getLogicalPosi(PORT, AXIS)}")
+        print(f"axis {AXIS}: moved past the break point to {dev.Motion_getLogicalPosi(PORT, AXIS)}")
         dev.Motion_enableBreakPoint(PORT, AXIS, 0)
         dev.Motion_close(PORT)
 

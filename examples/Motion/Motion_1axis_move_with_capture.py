@@ -29,9 +29,14 @@ def wait_done(dev, axes, seconds=10.0):
             raise TimeoutError(f"axes {axes} still moving after {seconds} s")
 
 
+def simulated(sim_dev):
+    """The simulated device's side (not used with real hardware)."""
+    sim_dev.state_set("mcx514.sync_at.0", 2500)
+
+
 def main():
     args = _target.parse(__doc__)
-    with _target.open_device(pyorv.MerlinAxis, args, sim_state=lambda s: s.state_set("mcx514.sync_at.0", 2500)) as dev:
+    with _target.open_device(pyorv.MerlinAxis, args, sim_state=simulated) as dev:
         dev.Motion_open(PORT)
         dev.Motion_rstEncoderPosi(PORT, AXIS, 0)
         dev.Motion_cfgCapture(PORT, AXIS, 0, 0)           # rising edge, logical position

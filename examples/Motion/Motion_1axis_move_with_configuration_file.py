@@ -41,8 +41,8 @@ def main():
         dev.Motion_saveCfgFile()                          # every entry, to edit from
         ini = configparser.ConfigParser()
         ini.read(path)
-        ini["Axis_1"].update({"stepper output": "CW/CCW(Two Pulse)", "forward polarity": "Active High",
-                              "reverse polarity": "Active High"})
+        ini["Axis_1"].update({"stepper output": "CW/CCW(Two Pulse)",
+                              "forward polarity": "Active High", "reverse polarity": "Active High"})
         with open(path, "w") as f:
             ini.write(f)
         print(f"loaded {path}: status {dev.Motion_loadCfgFile()}")

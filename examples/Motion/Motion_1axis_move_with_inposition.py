@@ -1,4 +1,4 @@
-"""Motion_1axis_move_with_inposition: a move that ends only when the servo driver reports in-position.
+"""Motion_1axis_move_with_inposition: a move that ends when the servo driver reports in-position.
 
 Enables axis 0's in-position input (active low): the chip then keeps the
 move busy after its last pulse until the servo driver's INPOS signal says the

@@ -38,7 +38,8 @@ def main():
         while len(finished) < len(MOVES):
             if time.monotonic() > deadline:
                 raise TimeoutError("not every axis arrived")
-            finished += [a for a in MOVES if a not in finished and dev.Motion_getMoveStatus(PORT, a) == 1]
+            finished += [a for a in MOVES
+                         if a not in finished and dev.Motion_getMoveStatus(PORT, a) == 1]
         print(f"finished in the order {finished}")
         print(f"positions: {positions(dev, MOVES)}")
         dev.Motion_close(PORT)

@@ -42,7 +42,7 @@ def main():
         # centre (1000, 0), finish (0, 0), axis 3 on with pitch 300, axis 4 off,
         # 2 turns, 100000 pulse/s, direction 1 (counter-clockwise), 1000 ms to calculate
         dev.Motion_cfgHelicalInterpo(PORT, 1000, 0, 0, 0, 1, 300, 0, 0, 2, 100000, 1, 1000)
-        print(f"helix length worked out by the chip: {dev.helical_interpo.calculation_result} pulses")
+        print(f"helix length from the chip: {dev.helical_interpo.calculation_result} pulses")
         dev.Motion_startHelicalInterpo(PORT)
         wait_done(dev, AXES)
         print(f"helix ended at {positions(dev, AXES)}")

@@ -1,9 +1,10 @@
 """Motion_3axis_synchronous_move: three axes prepared apart and started in the same instant.
 
-Each of axes 0, 1 and 2 gets its own target and speed; Motion_startMultiAxisMove
-then writes them, holds each axis's start and releases all three together.
-In this version of the driver the release step fails with an AttributeError
-before anything is sent, so the axes stay held and never start.  The example says so, cancels the held starts with an
+Each of axes 0, 1 and 2 gets its own target and speed;
+Motion_startMultiAxisMove then writes them, holds each axis's start and
+releases all three together.  In this version of the driver the release
+step fails with an AttributeError before anything is sent, so the axes stay
+held and never start.  The example says so, cancels the held starts with an
 instant stop and prints the positions, which have not changed.
 
     python examples/Motion/Motion_3axis_synchronous_move.py [--ip HOST] [--quick]

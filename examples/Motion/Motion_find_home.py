@@ -23,9 +23,14 @@ PORT, AXIS = 0, 0
 SEARCH_SECONDS = 10.0
 
 
+def simulated(sim_dev):
+    """The simulated device's side (not used with real hardware)."""
+    sim_dev.state_set("mcx514.home_at.0", 3000)
+
+
 def main():
     args = _target.parse(__doc__)
-    with _target.open_device(pyorv.MerlinAxis, args, sim_state=lambda s: s.state_set("mcx514.home_at.0", 3000)) as dev:
+    with _target.open_device(pyorv.MerlinAxis, args, sim_state=simulated) as dev:
         dev.Motion_open(PORT)
         dev.Motion_cfgHome(PORT, AXIS, 1, 0)              # home input enabled, active low
         # search type 0 (home), direction 0 (forward), 50000 pulse/s, 5000000 pulse/s2,

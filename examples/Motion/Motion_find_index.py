@@ -21,9 +21,14 @@ PORT, AXIS = 0, 0
 SEARCH_SECONDS = 10.0
 
 
+def simulated(sim_dev):
+    """The simulated device's side (not used with real hardware)."""
+    sim_dev.state_set("mcx514.index_at.0", 1500)
+
+
 def main():
     args = _target.parse(__doc__)
-    with _target.open_device(pyorv.MerlinAxis, args, sim_state=lambda s: s.state_set("mcx514.index_at.0", 1500)) as dev:
+    with _target.open_device(pyorv.MerlinAxis, args, sim_state=simulated) as dev:
         dev.Motion_open(PORT)
         dev.Motion_cfgEncoder(PORT, AXIS, 1)              # Z input polarity
         dev.Motion_rstEncoderPosi(PORT, AXIS, 0)

@@ -22,9 +22,14 @@ PORT, AXIS = 0, 0
 SEARCH_SECONDS = 10.0
 
 
+def simulated(sim_dev):
+    """The simulated device's side (not used with real hardware)."""
+    sim_dev.state_set("mcx514.limit_fwd_at.0", 5000)
+
+
 def main():
     args = _target.parse(__doc__)
-    with _target.open_device(pyorv.MerlinAxis, args, sim_state=lambda s: s.state_set("mcx514.limit_fwd_at.0", 5000)) as dev:
+    with _target.open_device(pyorv.MerlinAxis, args, sim_state=simulated) as dev:
         dev.Motion_open(PORT)
         dev.Motion_cfgLimit(PORT, AXIS, 1, 1, 1)          # forward and reverse on, active high
         dev.Motion_rstEncoderPosi(PORT, AXIS, 0)

@@ -1,9 +1,9 @@
-"""Motion_velocity_blending_acceleration: change speed, ramps and direction of a continuous move on the fly.
+"""Motion_velocity_blending_acceleration: change speed, ramps and direction of a continuous move.
 
 Axis 0 runs forward in velocity mode at 30000 pulse/s; its acceleration is
 then raised and the speed doubled; finally a negative speed makes the chip
 decelerate, turn round and run backward at 20000 pulse/s.  Prints the speed
-and position after each change and where the axis stopped.
+after each change and where the axis stopped.
 
     python examples/Motion/Motion_velocity_blending_acceleration.py [--ip HOST] [--quick]
 
@@ -48,15 +48,14 @@ def main():
         print(f"forward at {reach_speed(dev, 30000)} pulse/s")
         dev.Motion_overrideAxisAccel(PORT, AXIS, 2000000, 2000000)        # steeper ramps
         dev.Motion_overrideAxisVelocity(PORT, AXIS, 60000)
-        print(f"faster ramps, forward at {reach_speed(dev, 60000)} pulse/s, "
-              f"position {dev.Motion_getLogicalPosi(PORT, AXIS)}")
+        print(f"steeper ramps, forward at {reach_speed(dev, 60000)} pulse/s")
         turned_at = dev.Motion_getLogicalPosi(PORT, AXIS)
         dev.Motion_overrideAxisVelocity(PORT, AXIS, -20000)               # turn round
         deadline = time.monotonic() + 5.0
         while dev.Motion_getLogicalPosi(PORT, AXIS) >= turned_at:
             if time.monotonic() > deadline:
                 raise TimeoutError("the axis did not turn round")
-        print(f"turned round at {turned_at}: backward at {reach_speed(dev, 20000)} pulse/s")
+        print(f"turn ordered at {turned_at}: backward at {reach_speed(dev, 20000)} pulse/s")
         dev.Motion_stop(PORT, AXIS, 0)
         wait_done(dev, [AXIS])
         end = dev.Motion_getLogicalPosi(PORT, AXIS)

@@ -28,9 +28,14 @@ def hexes(data):
     return " ".join(f"{b:02X}" for b in data)
 
 
+def simulated(sim_dev):
+    """The simulated device's side (not used with real hardware)."""
+    sim_dev.state_set("spi.slave", "registers")
+
+
 def main():
     args = _target.parse(__doc__)
-    with _target.open_device(pyorv.PloverDio, args, sim_state=lambda s: s.state_set("spi.slave", "registers")) as dev:
+    with _target.open_device(pyorv.PloverDio, args, sim_state=simulated) as dev:
         dev.SPI_open(PORT)
         dev.SPI_setMode(PORT, 0)
         print(f"write {hexes(WRITE)}: status {dev.SPI_write(PORT, WRITE)}")

@@ -12,7 +12,7 @@ on the line that answers OK.
 
 import os
 import sys
-import threading
+import concurrent.futures
 
 sys.path.insert(0, os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 import _target  # noqa: E402  examples/_target.py: the simulator, or --usb/--ip hardware
@@ -28,27 +28,24 @@ def hexes(data):
 def read_within(dev, read, seconds):
     """Runs a blocking read, which waits until all it asked for has come; if
     that takes longer than `seconds`, closing the device ends the wait."""
-    got = []
-
-    def reader():
+    with concurrent.futures.ThreadPoolExecutor(1) as pool:
+        pending = pool.submit(read)
         try:
-            got.append(read())
-        except pyorv.DeviceClosedError:
-            pass
+            return pending.result(seconds)
+        except concurrent.futures.TimeoutError:
+            dev.close()                           # the read ends with DeviceClosedError
+            return None
 
-    worker = threading.Thread(target=reader)
-    worker.start()
-    worker.join(seconds)
-    if worker.is_alive():
-        dev.close()
-        worker.join()
-    return got[0] if got else None
+
+def simulated(sim_dev):
+    """The simulated device's side (not used with real hardware)."""
+    sim_dev.state_set("uart.peer.1", [[b"AT\r", b"OK\r\n"]])
 
 
 def main():
     args = _target.parse(__doc__)
-    with _target.open_device(pyorv.PloverDio, args, sim_state=lambda s: s.state_set("uart.peer.1", [[b"AT\r", b"OK\r\n"]])) as dev:
-        dev.UART_open(PORT)                               # the device streams what the port receives
+    with _target.open_device(pyorv.PloverDio, args, sim_state=simulated) as dev:
+        dev.UART_open(PORT)                               # streams what the port receives
         dev.UART_setBaudRate(PORT, 115200)
         dev.UART_write(PORT, "AT\r")
         answer = read_within(dev, lambda: dev.UART_read(PORT, ANSWER_BYTES), 2.0)

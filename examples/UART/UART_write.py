@@ -30,7 +30,7 @@ def main():
     with _target.open_device(pyorv.PloverDio, args) as dev:
         dev.UART_open(PORT)
         dev.UART_setBaudRate(PORT, 115200)
-        dev.UART_setDataBit(PORT, 0)                      # the modes are the firmware's: 0 is 8 bits
+        dev.UART_setDataBit(PORT, 0)                      # the firmware's modes: 0 is 8 bits
         dev.UART_setParity(PORT, 0)                       # none
         dev.UART_setNumStopBit(PORT, 0)                   # one
         for n in range(_target.loops(args, 5, 2)):

@@ -44,7 +44,7 @@ EXPECT = {
         r"backward at 20000 pulse/s\naxis 0: stopped at -?\d+, [1-9]\d* pulses back",
     "Motion/Motion_1axis_move": r"logical position 10000, encoder position 10000$",
     "Motion/Motion_1axis_move_with_alarm_in": r"stopped at 10000 of 10000, error bits 0x0000, alarm off$",
-    "Motion/Motion_1axis_move_with_breakpoint": r"armed at 2000, status 0\n.*now at 10000$",
+    "Motion/Motion_1axis_move_with_breakpoint": r"armed at 2000, status 0\n.*break point to 10000$",
     "Motion/Motion_1axis_move_with_capture": r"moved to 6000, input edge captured at 2500$",
     "Motion/Motion_1axis_move_with_configuration_file":
         r"status 0\naxis 0: stepper output CW/CCW\(Two Pulse\).*\naxis 0: moved to 6000$",
