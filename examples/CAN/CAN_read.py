@@ -11,10 +11,10 @@ loopback mode: the request comes back to it, and only the answer the example
 sends itself as 0x7E8 passes the filter.
 """
 
-import os
-import sys
 import asyncio
 import concurrent.futures
+import os
+import sys
 
 sys.path.insert(0, os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 import _target  # noqa: E402  examples/_target.py: the simulator, or --usb/--ip hardware
@@ -25,6 +25,7 @@ PORT = 1
 
 def hexes(data):
     return " ".join(f"{b:02X}" for b in data)
+
 
 def read_within(dev, read, seconds):
     """Runs a blocking read, which waits until all it asked for has come; if

@@ -10,9 +10,9 @@ Without --usb it runs against the built-in simulator, whose bus takes every
 frame.
 """
 
+import asyncio
 import os
 import sys
-import asyncio
 
 sys.path.insert(0, os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 import _target  # noqa: E402  examples/_target.py: the simulator, or --usb/--ip hardware

@@ -10,9 +10,9 @@ prints the settings used and the final position.
 Without --ip it runs against the built-in simulator.
 """
 
+import configparser
 import os
 import sys
-import configparser
 import tempfile
 import time
 

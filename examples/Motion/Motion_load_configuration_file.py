@@ -10,9 +10,9 @@ device, and prints what axis 0 now holds.
 Without --ip it runs against the built-in simulator.
 """
 
+import configparser
 import os
 import sys
-import configparser
 import tempfile
 
 sys.path.insert(0, os.path.dirname(os.path.dirname(os.path.abspath(__file__))))

@@ -10,9 +10,9 @@ Without --usb it runs against the built-in simulator, whose UART has a modem
 on the line that answers OK.
 """
 
+import concurrent.futures
 import os
 import sys
-import concurrent.futures
 
 sys.path.insert(0, os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 import _target  # noqa: E402  examples/_target.py: the simulator, or --usb/--ip hardware
@@ -24,6 +24,7 @@ ANSWER_BYTES = 4
 
 def hexes(data):
     return " ".join(f"{b:02X}" for b in data)
+
 
 def read_within(dev, read, seconds):
     """Runs a blocking read, which waits until all it asked for has come; if
