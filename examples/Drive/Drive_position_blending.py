@@ -47,7 +47,8 @@ def main():
             if time.monotonic() > deadline or dev.Motion_getProcessState(PORT) == 0:
                 raise TimeoutError("the drive did not pass 2000")
         refused = dev.Motion_startPositionMove(PORT, 5000, 20000, 100000, 100000, 0)
-        print(f"a start while moving is refused: status {refused}")
+        busy = " (errFirmwareDrive: a move is running)" if refused == pyorv.errFirmwareDrive else ""
+        print(f"a start while moving is refused: status {refused}{busy}")
         dev.Motion_stopProcess(PORT)
         print(f"new target 5000 from {position(dev)}: "
               f"status {dev.Motion_startPositionMove(PORT, 5000, 20000, 100000, 100000, 0)}")

@@ -22,7 +22,8 @@ EXPECT = {
     # motion and buses
     "Drive/Drive_find_home": r"home found; position now 0\b",
     "Drive/Drive_find_limit": r"stopped at -760, 40 steps off",
-    "Drive/Drive_position_blending": r"refused: status -\d+\n.*status 0\narrived at 5000$",
+    "Drive/Drive_position_blending":
+        r"refused: status -\d+ \(errFirmwareDrive.*\n.*status 0\narrived at 5000$",
     "Drive/Drive_position_move":
         r"to 5000: status 0, now at 5000\n.*by -2000: status 0, now at 3000$",
     "Drive/Drive_scan_move": r"scanning: state 3, at (\d|[12]\d{3}|3000)\b[\s\S]*stopped: state 0",
