@@ -1,8 +1,8 @@
 """Motion_1axis_move_with_S_curve_acceleration: a move whose speed ramps follow an S curve.
 
 Sets axis 0 to S-curve acceleration with a jerk of 50000000 pulse/s3, drives
-it 8000 pulses forward and prints the drive speed a few times on the way and
-the final position.
+it 8000 pulses forward and prints the drive speed every 500 pulses on the way
+and the final position.
 
     python examples/Motion/Motion_1axis_move_with_S_curve_acceleration.py [--ip HOST] [--quick]
 
@@ -29,13 +29,14 @@ def main():
         dev.Motion_cfgJerkAndAccelMode(PORT, AXIS, 50000000, 1)   # jerk, mode 1: S curve
         dev.Motion_cfgAxisMove(PORT, AXIS, 0, TARGET, 50000, 1000000, 1000000)
         dev.Motion_startSingleAxisMove(PORT, AXIS)
-        deadline = time.monotonic() + MOVE_SECONDS
+        mark, deadline = 0, time.monotonic() + MOVE_SECONDS
         while dev.Motion_getMoveStatus(PORT, AXIS) == 0:
             if time.monotonic() > deadline:
+                dev.Motion_stop(PORT, AXIS, 1)
                 raise TimeoutError("the move did not end")
-            print(f"at {dev.Motion_getLogicalPosi(PORT, AXIS)}: "
-                  f"speed {dev._Motion_getCurrentDriveSpeed(PORT, AXIS)} pulse/s")
-            time.sleep(0.02)                              # a reading every so often, not a wait
+            if (logical := dev.Motion_getLogicalPosi(PORT, AXIS)) >= mark:
+                print(f"at {logical}: speed {dev._Motion_getCurrentDriveSpeed(PORT, AXIS)} pulse/s")
+                mark += 500
         print(f"axis {AXIS}: S-curve move ended at {dev.Motion_getLogicalPosi(PORT, AXIS)}")
         dev.Motion_close(PORT)
 

@@ -1,8 +1,8 @@
 """Motion_2axis_linear_interpolation: a straight line on two axes.
 
 Axes 0 and 1 move together from (0, 0) to (4000, -3000) at a vector speed of
-50000 pulse/s, the chip keeping both on the line; prints the positions on the
-way and at the end.
+50000 pulse/s, the chip keeping both on the line; prints the positions each
+time axis 0 passes another 1000 pulses, and at the end.
 
     python examples/Motion/Motion_2axis_linear_interpolation.py [--ip HOST] [--quick]
 
@@ -33,12 +33,15 @@ def main():
         # axis 0 to 4000, axis 1 to -3000, vector speed, acceleration, deceleration
         dev.Motion_cfg2AxisLinearInterpo(PORT, 0, 4000, 1, -3000, 50000, 1000000, 1000000)
         dev.Motion_startLinearInterpo(PORT)
-        deadline = time.monotonic() + 10.0
+        mark, deadline = 1000, time.monotonic() + 10.0
         while not all(dev.Motion_getMoveStatus(PORT, a) == 1 for a in AXES):
             if time.monotonic() > deadline:
+                for a in AXES:
+                    dev.Motion_stop(PORT, a, 1)
                 raise TimeoutError("the line did not end")
-            print(f"on the way: {positions(dev, AXES)}")
-            time.sleep(0.02)                              # a reading every so often, not a wait
+            if (now := positions(dev, AXES))[0] >= mark:
+                print(f"on the way: {now}")
+                mark += 1000
         print(f"line ended at {positions(dev, AXES)}")
         dev.Motion_close(PORT)
 

@@ -25,6 +25,8 @@ def wait_done(dev, axes, seconds=10.0):
     deadline = time.monotonic() + seconds
     while not all(dev.Motion_getMoveStatus(PORT, a) == 1 for a in axes):
         if time.monotonic() > deadline:
+            for a in axes:
+                dev.Motion_stop(PORT, a, 1)               # instant stop
             raise TimeoutError(f"axes {axes} still moving after {seconds} s")
 
 

@@ -1,7 +1,8 @@
 """Motion_get_logical_position: read the logical and encoder positions while an axis moves.
 
 Starts a relative move of 20000 pulses on axis 0 and prints both position
-counters as the axis travels, then the final values.
+counters each time the axis passes another 5000 pulses, then the final
+values.
 
     python examples/Motion/Motion_get_logical_position.py [--ip HOST] [--quick]
 
@@ -17,7 +18,7 @@ import _target  # noqa: E402  examples/_target.py: the simulator, or --usb/--ip 
 import pyorv  # noqa: E402
 
 PORT, AXIS = 0, 0
-TARGET, MOVE_SECONDS = 20000, 10.0
+TARGET, STEP, MOVE_SECONDS = 20000, 5000, 10.0
 
 
 def main():
@@ -27,13 +28,15 @@ def main():
         dev.Motion_rstEncoderPosi(PORT, AXIS, 0)
         dev.Motion_cfgAxisMove(PORT, AXIS, 1, TARGET, 100000, 500000, 500000)   # relative
         dev.Motion_startSingleAxisMove(PORT, AXIS)
-        deadline = time.monotonic() + MOVE_SECONDS
+        mark, deadline = STEP, time.monotonic() + MOVE_SECONDS
         while dev.Motion_getMoveStatus(PORT, AXIS) == 0:
             if time.monotonic() > deadline:
+                dev.Motion_stop(PORT, AXIS, 1)
                 raise TimeoutError("the move did not end")
-            print(f"moving: logical {dev.Motion_getLogicalPosi(PORT, AXIS)}, "
-                  f"encoder {dev.Motion_getEncoderPosi(PORT, AXIS)}")
-            time.sleep(0.05 if args.quick else 0.2)       # a reading every so often, not a wait
+            if (logical := dev.Motion_getLogicalPosi(PORT, AXIS)) >= mark:
+                encoder = dev.Motion_getEncoderPosi(PORT, AXIS)
+                print(f"passed {mark}: logical {logical}, encoder {encoder}")
+                mark += STEP
         print(f"stopped: logical {dev.Motion_getLogicalPosi(PORT, AXIS)}, "
               f"encoder {dev.Motion_getEncoderPosi(PORT, AXIS)}")
         dev.Motion_close(PORT)

@@ -37,7 +37,7 @@ EXPECT = {
     "Motion/Motion_find_index": r"index found, position 1500, encoder 1500$",
     "Motion/Motion_find_limit": r"stopped at 5000, forward limit 1, reverse limit 0$",
     "Motion/Motion_get_logical_position":
-        r"moving: logical [1-9]\d*[\s\S]*stopped: logical 20000, encoder 20000$",
+        r"passed 5000: logical \d+, encoder \d+\n[\s\S]*stopped: logical 20000, encoder 20000$",
     "Motion/Motion_load_configuration_file":
         r"status 0\naxis 0 Home Enable: 1\naxis 0 Home Polarity: 1\naxis 0 Offset Position: 500\n",
     "Motion/Motion_save_configuration_file":
