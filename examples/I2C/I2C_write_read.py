@@ -1,6 +1,6 @@
 """I2C_write_read: write to and read from I2C chips on a Plover.
 
-On I2C port 1 of a PloverDio (100 kHz, 7-bit addresses) the example writes
+On I2C port 1 of a PloverDio (100 kHz) the example writes
 four bytes into a 24C02-style EEPROM at address 0x50 from word 0x10 on,
 reads them back (a one-byte write of the word address, then a read), and
 reads the temperature register of an LM75-style sensor at 0x48.  Prints the
@@ -38,7 +38,6 @@ def main():
     with _target.open_device(pyorv.PloverDio, args, sim_state=simulated) as dev:
         dev.I2C_open(PORT)
         dev.I2C_setClockRate(PORT, 0)                     # 0: 100 kHz
-        dev.I2C_setAddressSize(PORT, 0)                   # 0: 7-bit addresses
         status = dev.I2C_write(PORT, EEPROM, [0x10] + DATA)  # word address, then the data
         print(f"EEPROM write at 0x10: {hexes(DATA)}, status {status}")
         time.sleep(0.01)                                  # the EEPROM's write cycle (5 ms)

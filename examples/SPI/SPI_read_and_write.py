@@ -1,6 +1,6 @@
 """SPI_read_and_write: a full-duplex SPI transfer on a Plover.
 
-On SPI port 1 of a PloverDio (mode 0, most significant bit first) the example
+On SPI port 1 of a PloverDio (SPI mode 0) the example
 clocks four bytes out on MOSI and prints the four bytes clocked in on MISO at
 the same time.
 
@@ -30,7 +30,6 @@ def main():
     with _target.open_device(pyorv.PloverDio, args) as dev:
         dev.SPI_open(PORT)
         dev.SPI_setMode(PORT, 0)                          # clock idle low, sample on the first edge
-        dev.SPI_setFirstBit(PORT, 0)                      # 0: most significant bit first
         for _ in range(_target.loops(args, 3, 1)):
             received = dev.SPI_readAndWrite(PORT, DATA)
             print(f"sent {hexes(DATA)}, received {hexes(received)}")

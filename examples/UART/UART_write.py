@@ -1,8 +1,9 @@
 """UART_write: send text through a UART of a Plover.
 
-Opens UART port 1 of a PloverDio at 115200 baud, 8 data bits, no parity, one
-stop bit, and writes a numbered line a few times, printing each line's bytes
-in hex and the device's status.
+Opens UART port 1 of a PloverDio at 115200 baud, with mode 0 of the
+firmware's numbering for data size, parity and stop bits, and writes a
+numbered line a few times, printing each line's bytes in hex and the
+device's status.
 
     python examples/UART/UART_write.py [--usb SERIAL] [--quick]
 
@@ -30,9 +31,10 @@ def main():
     with _target.open_device(pyorv.PloverDio, args) as dev:
         dev.UART_open(PORT)
         dev.UART_setBaudRate(PORT, 115200)
-        dev.UART_setDataBit(PORT, 0)                      # the firmware's modes: 0 is 8 bits
-        dev.UART_setParity(PORT, 0)                       # none
-        dev.UART_setNumStopBit(PORT, 0)                   # one
+        # data size, parity and stop bits are given as the firmware's mode numbers
+        dev.UART_setDataBit(PORT, 0)
+        dev.UART_setParity(PORT, 0)
+        dev.UART_setNumStopBit(PORT, 0)
         for n in range(_target.loops(args, 5, 2)):
             line = f"hello {n}\r\n"                        # up to 50 bytes a write
             status = dev.UART_write(PORT, line)
