@@ -119,3 +119,18 @@ def test_example_runs_on_the_simulator(path, capsys, tmp_path, monkeypatch):
     assert re.search(EXPECT[key], out.out, re.M), out.out + out.err
     assert "Traceback" not in out.err, out.err
     assert threads_gone(thread_ids() - before), "the example left threads running"
+
+
+@pytest.mark.parametrize("name, said", [("UART/UART_read", "no answer of 4 bytes within 2 s"),
+                                        ("CAN/CAN_read", "no frame within 2 s")])
+def test_a_read_that_gets_nothing_ends_at_its_deadline(name, said, capsys, monkeypatch):
+    """With nothing on the other side of the simulated bus, the read example's
+    blocking read is ended by closing the device, and no thread is left."""
+    monkeypatch.setattr(sys, "argv", [name, "--quick"])
+    monkeypatch.setattr(sys, "path", list(sys.path))
+    main = runpy.run_path(str(EXAMPLES / f"{name}.py"))["main"]
+    monkeypatch.setitem(main.__globals__, "simulated", lambda sim_dev: None)
+    before = thread_ids()
+    main()
+    assert said in capsys.readouterr().out
+    assert threads_gone(thread_ids() - before), "the example left threads running"
