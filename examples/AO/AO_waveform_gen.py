@@ -44,8 +44,10 @@ def main():
             print(f"  channel 0 {ch0:7.3f} V   channel 1 {ch1:7.3f} V")
         dev._AO_stopStreaming(PORT)
         dev.AO_closeStreaming(PORT)
-        print(f"stopped, state {dev.AO_getState(PORT)}; channel 0 stayed within "
-              f"{min(seen):.3f} .. {max(seen):.3f} V (sine of 1 V +- 2 V)")
+        inside = all(-1.001 <= v <= 3.001 for v in seen)
+        print(f"stopped, state {dev.AO_getState(PORT)}; channel 0 ranged "
+              f"{min(seen):.3f} .. {max(seen):.3f} V, within the sine's 1 V +- 2 V: "
+              f"{'yes' if inside else 'no'}")
         dev.AO_close(PORT)
 
 
