@@ -184,7 +184,8 @@ std::vector<std::string> handleList() {
 const std::vector<HandleProperties>& handleProperties() {
   static const std::vector<HandleProperties> table = [] {
     std::vector<HandleProperties> out;
-    for (const UtilityRow& u : kUtilities) out.push_back(propertiesOf(u.handle, u.connect, nullptr));
+    for (const UtilityRow& u : kUtilities)
+      out.push_back(propertiesOf(u.handle, u.connect, nullptr));
     for (const std::string& name : productList()) {
       const char* connect = nullptr;
       const char* system = linkCategory(modelInfo(name).device, &connect);
