@@ -417,11 +417,11 @@ def cmd_examples_list(args):
         print(f"\n{label.get(category, category)} [{category}]")
         for name in names:
             mark = "+" if _example_script(category, name) else "-"
-            print(f"  {mark} {category}/{name:<46} {label.get(name, '')}")
+            print(f"  {mark} {category + '/' + name:<52} {label.get(name, '')}")
     print("\nGUI examples: panels in the browser, `pyorv panel`")
     for category, names in pyorv.EXAMPLE_GUI_DICT.items():
         for name in names:
-            print(f"    {category}/{name:<46} {label.get(name, '')}")
+            print(f"    {category + '/' + name:<52} {label.get(name, '')}")
     root = examples_root()
     print(f"\nscripts in {root}" if root else "\nno example scripts installed")
     return 0
