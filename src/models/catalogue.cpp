@@ -67,7 +67,7 @@ const std::vector<NamedRow> kGui = {
 #include "models/catalogue.def"
 };
 const std::vector<PortRow> kPorts = {
-#define ORV_PORT(Class, Category, port) {#Class, #Category, std::optional<int>(port)},
+#define ORV_PORT(Class, Category, port) {#Class, #Category, port},
 #include "models/catalogue.def"
 };
 const std::vector<std::pair<std::string, std::string>> kBanners = {
