@@ -123,6 +123,8 @@ def test_example_runs_on_the_simulator(path, capsys, monkeypatch, tmp_path):
     before = thread_ids()
     out = run_example(path, capsys)
     key = f"{path.parent.name}/{path.stem}"
+    assert path.stem in pyorv.EXAMPLE_CONSOLE_DICT.get(path.parent.name, []), \
+        f"{key} is not in the example catalogue"
     assert key in EXPECT, f"no expected output written down for {key}"
     assert re.search(EXPECT[key], out.out, re.M), out.out + out.err
     assert "Traceback" not in out.err, out.err
