@@ -72,16 +72,12 @@ def _connect_real(dev, model, args):
 def _connect_sim(dev, sim_dev):
     if sim_dev.link == pyorv.sim.Link.Usb:
         # The simulator's virtual USB bus needs no libusb: the driver's warning
-        # that it found none says nothing about the simulated device.  The
-        # warning also prints the call stack on stdout when it is made; keep
-        # only the driver's own unindented lines ("Connected to ...").
-        out = io.StringIO()
-        with warnings.catch_warnings(), contextlib.redirect_stdout(out):
+        # that it found none (and the call stack it prints before warning)
+        # says nothing about the simulated device.
+        with warnings.catch_warnings(), contextlib.redirect_stdout(io.StringIO()):
             warnings.simplefilter("ignore", pyorv.ExtLibNotFoundWarning)
-            dev.connect(sim_dev.serial)
-        for line in out.getvalue().splitlines():
-            if line and not line.startswith(" "):
-                print(line)
+            dev.connect(sim_dev.serial, verbose=False)
+        print(f"Connected to {sim_dev.serial} ({dev._getDeviceName()})")
     elif sim_dev.link == pyorv.sim.Link.Wifi:
         dev.connect(sim_dev.host, port1=sim_dev.data_port, port2=sim_dev.cmd_port)
     else:

@@ -10,4 +10,5 @@ from . import _pyorv
 from ._pyorv import *  # noqa: F401,F403
 from ._pyorv import __version__  # noqa: F401
 
-__all__ = [name for name in dir(_pyorv) if not name.startswith("__") and name != "_sim"]
+# The public classes, functions, constants and catalogue tables of the extension.
+__all__ = [name for name in dir(_pyorv) if not name.startswith("_")]

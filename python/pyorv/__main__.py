@@ -5,6 +5,8 @@
     pyorv find --broadcast HOST     discovery of network devices
     pyorv info HOST[:PORT]          driver info and serial number of one device
     pyorv udev-rules                where the udev rules for USB access without root are
+    pyorv examples                  the example programs by category
+    pyorv examples run CATEGORY/NAME [ARGS...]   run one (against the simulator by default)
 
 MAC addresses are printed in one form, the two-digit upper-case form the
 device's configuration uses ("02:4F:52:56:00:0A"), and read in any of the
@@ -15,7 +17,9 @@ import argparse
 import asyncio
 import ipaddress
 import os
+import pathlib
 import re
+import runpy
 import signal
 import sys
 import threading
@@ -387,6 +391,92 @@ def cmd_udev_rules(args):
     return 0
 
 
+# ---- examples -------------------------------------------------------------------------
+
+def examples_root():
+    """The folder of the example scripts: inside the installed package
+    (pyorv/examples), or the source tree's examples/ beside python/pyorv."""
+    here = pathlib.Path(__file__).resolve().parent
+    for folder in (here / "examples", here.parents[1] / "examples"):
+        if (folder / "_target.py").is_file():
+            return folder
+    return None
+
+
+def _example_script(category, name):
+    root = examples_root()
+    path = root / category / f"{name}.py" if root else None
+    return path if path and path.is_file() else None
+
+
+def cmd_examples_list(args):
+    label = pyorv.LABEL_DICT
+    print("Console examples: pyorv examples run CATEGORY/NAME [--usb SERIAL | --ip HOST] [--quick]")
+    print("(+ a script to run; - listed in the catalogue, no script here yet)")
+    for category, names in pyorv.EXAMPLE_CONSOLE_DICT.items():
+        print(f"\n{label.get(category, category)} [{category}]")
+        for name in names:
+            mark = "+" if _example_script(category, name) else "-"
+            print(f"  {mark} {category + '/' + name:<52} {label.get(name, '')}")
+    print("\nGUI examples: panels in the browser, `pyorv panel`")
+    for category, names in pyorv.EXAMPLE_GUI_DICT.items():
+        for name in names:
+            print(f"    {category + '/' + name:<52} {label.get(name, '')}")
+    root = examples_root()
+    print(f"\nscripts in {root}" if root else "\nno example scripts installed")
+    return 0
+
+
+def _find_example(text):
+    """(kind, category, name) of an example named CATEGORY/NAME or a bare NAME;
+    a text that names none, or several, fails with the candidates."""
+    tables = (("console", pyorv.EXAMPLE_CONSOLE_DICT), ("gui", pyorv.EXAMPLE_GUI_DICT))
+    category, _, name = text.rpartition("/")
+    name = name.removesuffix(".py")
+    found = [(kind, cat, name) for kind, table in tables for cat, names in table.items()
+             if name in names and category in ("", cat)]
+    if len(found) == 1:
+        return found[0]
+    if not found:
+        raise LookupError(f"no example {text!r}; `pyorv examples` lists them")
+    raise LookupError(f"{text!r} names several examples, say which: "
+                      + ", ".join(f"{c}/{n}" for _, c, n in found))
+
+
+def run_gui_example(category, name, argv):
+    """GUI examples are panels of the browser app."""
+    print(f"{category}/{name} is a GUI panel ({pyorv.LABEL_DICT.get(name, name)}); "
+          f"GUI panels open with `pyorv panel` for now")
+    return 0
+
+
+def cmd_examples_run(args):
+    try:
+        kind, category, name = _find_example(args.example)
+    except LookupError as e:
+        return _fail(str(e), 2)
+    if kind == "gui":
+        return run_gui_example(category, name, args.args)
+    path = _example_script(category, name)
+    if path is None:
+        return _fail(f"{category}/{name} is in the catalogue but has no script here yet")
+    argv = sys.argv
+    sys.argv = [str(path), *args.args]
+    try:
+        runpy.run_path(str(path), run_name="__main__")
+    except SystemExit as e:
+        return e.code if isinstance(e.code, int) else (0 if e.code is None else _fail(e.code))
+    finally:
+        sys.argv = argv
+    return 0
+
+
+def cmd_examples(args):
+    if getattr(args, "examples_command", None) == "run":
+        return cmd_examples_run(args)
+    return cmd_examples_list(args)
+
+
 # ---- entry ----------------------------------------------------------------------------
 
 def _parser(prog="pyorv"):
@@ -443,6 +533,16 @@ def _parser(prog="pyorv"):
     u.add_argument("--print", action="store_true",
                    help="print the rules themselves instead of the file's path")
     u.set_defaults(run=cmd_udev_rules)
+
+    e = sub.add_parser("examples", help="list the example programs, or run one")
+    e.set_defaults(run=cmd_examples)
+    e_sub = e.add_subparsers(dest="examples_command", metavar="run")
+    r = e_sub.add_parser("run", help="run one example (the built-in simulator unless its "
+                                     "arguments name a device)")
+    r.add_argument("example", metavar="CATEGORY/NAME",
+                   help="the example, or its bare NAME when only one category has it")
+    r.add_argument("args", nargs=argparse.REMAINDER,
+                   help="passed to the example: --usb SERIAL, --ip HOST, --quick, ...")
     return p
 
 

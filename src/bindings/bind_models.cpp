@@ -3,6 +3,7 @@
 
 #include "bindings/bindings.hpp"
 #include "bindings/devices.hpp"
+#include "models/catalogue.hpp"
 #include "models/models.hpp"
 
 namespace orv::py_bind {
@@ -95,6 +96,13 @@ py::dict rowDict(const ModelInfo& r) {
   return d;
 }
 
+py::dict exampleDict(const ExampleTable& table) {
+  py::dict d;
+  for (const auto& [category, names] : table) d[py::str(category)] = py::cast(names);
+  return d;
+}
+
+// The catalogue's tables (models/catalogue.def) as module attributes.
 void bindCatalogue(py::module_& m) {
   py::dict labels;
   for (const auto& [key, label] : labelEntries()) labels[py::str(key)] = label;
@@ -104,6 +112,26 @@ void bindCatalogue(py::module_& m) {
   m.attr("HANDLE_DICT") = handles;
   m.attr("PRODUCT_LIST") = py::cast(productList());
   m.attr("HANDLE_LIST") = py::cast(handleList());
+  py::dict properties;
+  for (const HandleProperties& hp : handleProperties()) {
+    py::dict p;
+    p["connect"] = hp.connect.empty() ? py::none() : py::object(py::str(hp.connect));
+    py::list categories;
+    for (const auto& [category, port] : hp.ports) {
+      p[py::str(category)] = port ? py::object(py::int_(*port)) : py::none();
+      categories.append(category);
+    }
+    p["cat_port"] = categories;
+    properties[py::str(hp.handle)] = p;
+  }
+  m.attr("HANDLE_PROPERTIES") = properties;
+  m.attr("CATEGORY_CONSOLE_DICT") = exampleDict(categoryHandles());
+  py::list categories;
+  for (const auto& [category, names] : consoleExamples()) categories.append(category);
+  m.attr("CATEGORY_CONSOLE_LIST") = categories;
+  m.attr("EXAMPLE_CONSOLE_DICT") = exampleDict(consoleExamples());
+  m.attr("EXAMPLE_GUI_DICT") = exampleDict(guiExamples());
+  for (const auto& [name, text] : banners()) m.attr(name.c_str()) = text;
   m.def("_modelTable", [] {
     py::dict t;
     for (const auto& row : modelTable()) t[py::str(row.class_name)] = rowDict(row);

@@ -123,7 +123,8 @@ bool isModel(std::string_view class_name);
 // LABEL_DICT lookup of a class name; the class name itself when unknown.
 std::string labelFor(const std::string& class_name);
 
-// LABEL_DICT in its order: the groups, the utility handles, then every model.
+// LABEL_DICT in its order: the groups, the utility handles, every model, then
+// the example categories and examples (models/catalogue.cpp).
 const LabelEntries& labelEntries();
 // HANDLE_DICT in its order: "utilities", "wireless", "ethernet", "USB".
 const HandleGroups& handleGroups();

@@ -1,6 +1,6 @@
 // The model table: every product of the family, its device class, label,
-// modules, port maps and parameters; and the catalogue tables built from it
-// (LABEL_DICT, HANDLE_DICT, PRODUCT_LIST, HANDLE_LIST).
+// modules, port maps and parameters.  The catalogue tables built from it
+// (LABEL_DICT, HANDLE_DICT, ...) are in models/catalogue.cpp.
 #include <algorithm>
 #include <map>
 #include <mutex>
@@ -314,15 +314,6 @@ std::vector<ModelInfo> makeTable() {
   return t;
 }
 
-// The handles that are not products, and the display texts of the groups.
-const std::vector<std::string> kUtilities = {"DeviceFinder", "DataLogger"};
-const LabelEntries kOtherLabels = {
-    {"utilities", "Utilities"},         {"wireless", "Wifi devices"},
-    {"ethernet", "Ethernet devices"},   {"USB", "USB devices"},
-    {"product_list", "Products Usage"}, {"DeviceFinder", "Device finder"},
-    {"DataLogger", "Data logger"},
-};
-
 }  // namespace
 
 const char* deviceClassName(DeviceKind kind) {
@@ -365,60 +356,6 @@ const ModelInfo& modelInfo(std::string_view class_name) {
     it = bare.emplace(row.class_name, row).first;
   }
   return it->second;
-}
-
-const LabelEntries& labelEntries() {
-  static const LabelEntries entries = [] {
-    LabelEntries out = kOtherLabels;
-    for (const auto& row : modelTable()) out.emplace_back(row.class_name, row.label);
-    return out;
-  }();
-  return entries;
-}
-
-const HandleGroups& handleGroups() {
-  static const HandleGroups groups = [] {
-    HandleGroups out = {{"utilities", kUtilities}, {"wireless", {}}, {"ethernet", {}}, {"USB", {}}};
-    for (const auto& row : modelTable()) {
-      switch (row.device) {
-        case DeviceKind::Wifi:
-          out[1].second.push_back(row.class_name);
-          break;
-        case DeviceKind::Ethernet:
-          out[2].second.push_back(row.class_name);
-          break;
-        case DeviceKind::Usb:
-          out[3].second.push_back(row.class_name);
-          break;
-        case DeviceKind::None:  // TrellisLite: nothing to connect
-          break;
-      }
-    }
-    return out;
-  }();
-  return groups;
-}
-
-std::vector<std::string> productList() {
-  std::vector<std::string> out;
-  for (const auto& [group, names] : handleGroups())
-    if (group != "utilities") out.insert(out.end(), names.begin(), names.end());
-  return out;
-}
-
-std::vector<std::string> handleList() {
-  std::vector<std::string> out;
-  for (const auto& [group, names] : handleGroups())
-    out.insert(out.end(), names.begin(), names.end());
-  return out;
-}
-
-// _getDeviceName: LABEL_DICT of the class name; the class name itself for the
-// bare device classes.
-std::string labelFor(const std::string& class_name) {
-  for (const auto& [key, label] : kOtherLabels)
-    if (key == class_name) return label;
-  return modelInfo(class_name).label;
 }
 
 }  // namespace orv

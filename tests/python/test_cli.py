@@ -5,13 +5,14 @@ have one printed form, every option is explained."""
 import argparse
 import os
 import pathlib
+import re
 import subprocess
 import sys
 
 import pytest
 
 import pyorv.sim as sim
-from pyorv.__main__ import _parser
+from pyorv.__main__ import _parser, main
 
 
 def run(*args, env=None, timeout=120):
@@ -103,3 +104,21 @@ def test_udev_rules_file_is_shipped_and_found():
     rules = path.read_text()
     assert 'ATTRS{idVendor}=="0483", ATTRS{idProduct}=="5750"' in rules  # 1155, 22352
     assert run("udev-rules", "--print", timeout=30).stdout == rules
+
+
+# `pyorv examples` lists the catalogue; `run` finds a script by CATEGORY/NAME
+# or a bare NAME and passes the rest of the line to it.
+@pytest.mark.parametrize("args, code, out", [
+    (["examples"], 0, r"Digital input and output \[DIO\]\n(.*\n)*  \+ DIO/DO_write_pins\s+Write pins$"),
+    (["examples", "run", "single_loop_async", "--quick"], 0,
+     r"round 3: wrote 1, read 1\nthe task has ended"),  # 3 rounds: --quick reached it
+    (["examples", "run", "System_Wifi/hello_world.py"], 0, r"Hello from a Heron-Ain-Imu"),
+    (["examples", "run", "AI/AI_integrated_gui"], 0, r"GUI panels open with `pyorv panel`"),
+    (["examples", "run", "hello_world"], 2,
+     r"System_USB/hello_world, System_ETH/hello_world, System_Wifi/hello_world"),
+    (["examples", "run", "AI/DO_write_pins"], 2, r"no example 'AI/DO_write_pins'"),
+])
+def test_examples_command(args, code, out, capsys):
+    assert main(args) == code
+    got = capsys.readouterr()
+    assert re.search(out, got.out + got.err, re.M), got.out + got.err

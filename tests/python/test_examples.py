@@ -1,15 +1,20 @@
 """Every example under examples/ runs to completion against the simulator
 (with --quick) and prints what its reader is told to expect."""
 
+import contextlib
+import io
 import pathlib
 import re
 import runpy
 import sys
 import tempfile
+import warnings
 
 import pytest
 
 import pyorv
+import pyorv.sim as sim
+
 from conftest import thread_ids, threads_gone
 
 # The USB models look for the USB library beside the module and warn when it is not there.
@@ -76,17 +81,80 @@ EXPECT = {
     "SPI/SPI_write": r"write 05 A5 5A: status 0\nregisters 5, 6 read back: A5 5A$",
     "UART/UART_read": r"received 4F 4B 0D 0A \('OK'\)$",
     "UART/UART_write": r"wrote 9 bytes 68 65 6C 6C 6F 20 30 0D 0A: status 0$",
+    "System_USB/get_pin_mode": r"port 0: DO DO DI Idle Idle",
+    "System_USB/get_USB_info": r"model\s+Plover-Dio \(PloverDio\)\n.*\nserial number\s+SIM00001",
+    "System_USB/hello_world": r"Hello from a Plover-Dio \(PloverDio\)",
+    "System_USB/set_and_get_RTC": r"device clock after\s+20\d\d-.*\([01] s from the time set\)",
+    "System_ETH/get_network_info": r"subnet mask\s+255\.255\.255\.0\n.*\nMAC address\s+02:4F:52:56:00:01",
+    "System_ETH/hello_world": r"Hello from a Kestrel-Dio \(KestrelDio\)",
+    "System_ETH/set_and_get_RTC": r"device clock after\s+20\d\d-.*\([01] s from the time set\)",
+    "System_Wifi/get_network_info": r"IP address\s+127\.0\.0\.1\n(.*\n){2}MAC address\s+02:4F:52",
+    "System_Wifi/get_Heron_status": r"board temperature\s+25\.50 degC(.*\n)*Wi-Fi signal\s+-56 dBm",
+    "System_Wifi/hello_world": r"Hello from a Heron-Ain-Imu \(HeronAinImu\)",
+    # The Heron counts its years from 2000: the clock reads this century back.
+    "System_Wifi/set_and_get_RTC": r"device clock after\s+20\d\d-.*\([01] s from the time set\)",
+    "System_Wifi/set_LED_status": r"blue\s+LED off\s+\(status 0\)\nall LEDs reset \(status 0\)",
+    "Find_devices/find_all_devices":
+        r"3 network device\(s\)\n.*\n\s+KestrelAin\s+192\.168\.1\.110\s+255\.255\.255\.0\s+"
+        r"02:4f:52:56:00:01\n\s+KestrelDio\s+192\.168\.1\.111(.*\n)\s+HeronAinImu\s+192\.168\.1\.112",
+    "Tutorial/single_loop_thread": r"round 3: wrote 1, read 1\nthe worker thread has ended",
+    "Tutorial/single_loop_async": r"round 2: wrote 0, read 0\nround 3: wrote 1, read 1\nthe task",
+    "Tutorial/multiple_loops_thread": r"io loop: 4 of 4 read-backs matched\nclock loop: 4 readings",
+    "Tutorial/multiple_loops_async": r"io task: 4 of 4 read-backs matched\nclock task: 4 readings",
+    "AI/AI_continuous": r"^\s+2\s+400\s+6\.000 V\s+-1\.250 V$",
+    "AI/AI_continuous_with_logger": r"header and 750 rows; channel 1 reads 2\.5 V",
+    "AI/AI_N_samples_once": r"300 samples of 8 channels at 1000 Hz\nchannel 0\s+min\s+-2\.000 V\s+"
+                            r"max\s+2\.000 V(.*\n)channel 1\s+min\s+1\.500 V",
+    "AI/AI_on_demand_in_loop": r"^\s+3\s+3\.000 V\s+-3\.000 V\s+0\.000 V$",
+    "AI/AI_on_demand_once": r"channel 0\s+0\.250 V\n(.*\n){6}channel 7\s+3\.750 V",
+    "AI/AI_continuous_multi_slot": r"^\s+1\s+2\s+200\s+0\.500 V\s+4\.000 V$",
+    "AI24Bit/AI_on_demand_once": r"channel 0\s+4\.000 mA\n(.*\n){6}channel 7\s+18\.000 mA",
+    "AO/AO_write_all_channels": r"^\s+0\s+-7\.500 V\s+-7\.500 V(.*\n){7}\s+7\s+9\.500 V\s+9\.500 V",
+    "AO/AO_write_one_channel": r"-4\.000 V; outputs:\s+0\.000\s+0\.000\s+0\.000 -4\.000\s+0\.000",
+    "AO/AO_waveform_gen": r"state 2\n(.*\n)*stopped, state 0; .*within the sine's 1 V \+- 2 V: yes",
+    "AIO/AIO_one_channel_loopback": r"1\.250 V\s+1\.250 V\n\s+2\.500 V\s+2\.500 V",
+    "AIO/AIO_all_channels_loopback": r"^\s+7\s+4\.500 V\s+4\.500 V\nlargest difference 0\.\d+ mV",
+    "AIO/AO_output_while_AI_streaming":
+        r"streamed 400 samples(.*\n)input min 0\.50\d V, max 4\.(49\d|500) V, mean 2\.(49\d|50\d) V",
+    "DIO/DO_write_pins": r"^\s+0\s+1\s+1\n\s+2\s+0\s+0\n\s+4\s+1\s+1$",
+    "DIO/DO_write_port": r"wrote 0b100110\s+inputs read \[0, 1, 1, 0, 0, 1\]",
+    "DIO/DO_blinky_pins": r"blink 3: pin 0 \.  pin 1 #  \(read 0 1\)\nblink 4: pin 0 #  pin 1 \.",
+    "DIO/DO_blinky_port": r"blink 3: \.#\.#\.#  \[0, 1, 0, 1, 0, 1\]\nblink 4: #\.#\.#\.",
+    "DIO/DIO_loopback_pins": r"DO 0\.5 -> DI 1\.5: high read 1, low read 0  ok\n6 of 6 pins passed",
+    "DIO/DIO_loopback_port": r"wrote 0b101010  read 0b101010  ok(.*\n)+9 of 9 patterns passed",
+    "Temperature_TC/TC_read_channel_data":
+        r"20\.00\s+32\.50\s+45\.00\s+57\.50\s+70\.00\s+82\.50\s+95\.00  degC",
+    "Temperature_TC/TC_read_channel_data_with_logger":
+        r"logged 3 readings to .*TC_temperatures\.csv\nlast row: [\d.]+, 20\.0, 32\.5, (.*), 95\.0$",
+    "Temperature_TC/TC_read_channel_status": r"^\s+2\s+1\s+open circuit\n\s+3\s+0\s+24\.00 degC",
+    "Temperature_RTD/RTD_read_channel_data": r"22\.50\s+100\.25  degC",
+    "Temperature_RTD/RTD_read_channel_data_with_logger":
+        r"logged 3 readings to .*RTD_temperatures\.csv\nlast row: [\d.]+, 22\.5, 100\.25$",
+    "Temperature_RTD/RTD_read_channel_status":
+        r"^\s+0\s+0\s+21\.75 degC\n\s+1\s+1\s+fault \(status 0x01\)",
+    "Relay/Relay_set_channel": r"relay 2 switching counter: 0 -> 2",
+    "Relay/Relay_read_counters": r"^\s+0\s+0\s+2\n\s+1\s+0\s+0\n(.*\n){3}\s+5\s+0\s+2$",
+    "PWM/PWM_generate": r"runs at 1000 Hz, 25 %\n.*\n.*runs at 2000 Hz, 75 %\nPWM 0 stopped",
+    "Counter/Counter_read": r"counted [1-9]\d* pulses of the 1000 Hz output",
+    "AHRS/AHRS_read": r"10\.00\s+-20\.00\s+45\.00\s+1\.70\s+-3\.29\s+9\.06",
+    "AHRS/AHRS_visualize": r"roll\s+-30\.0\s+#+\|\n(.*\n)+roll\s+15\.0\s+\|#+\npitch\s+5\.0",
+    "DPOT/DPOT_readByChannel": r"^\s+3\s+0x00000000\s+0\.000$",
+    "DPOT/DPOT_writeAllChannels": r"^\s+0\s+0\.100\n(.*\n){2}\s+3\s+0\.875$",
 }
 
 
 @pytest.fixture(scope="module", autouse=True)
 def usb_layer_started():
-    """libusb starts one event thread for the process the first time a USB
-    link looks for devices, and it lives as long as the process: start it
-    before the examples, so that it is not counted against the first USB one."""
-    finder = pyorv.DeviceFinder(verbose=False)
-    finder.Bcst_enumerateUSBDevices()
-    finder.close(verbose=False)
+    """The first USB connect of a process starts the USB library's event
+    thread, which lives as long as the process: start it before the examples
+    count their threads."""
+    with sim.Simulator() as s:
+        s.add_device(sim.DeviceConfig(model="PloverDio", serial="SIMWARM1"))
+        dev = pyorv.PloverDio(verbose=False)
+        with warnings.catch_warnings(), contextlib.redirect_stdout(io.StringIO()):
+            warnings.simplefilter("ignore", pyorv.ExtLibNotFoundWarning)
+            dev.connect("SIMWARM1", verbose=False)
+        dev.close(verbose=False)
 
 
 def example_paths():
@@ -110,11 +178,13 @@ def run_example(path, capsys, *args):
 
 @pytest.mark.parametrize("path", example_paths(),
                          ids=lambda p: f"{p.parent.name}/{p.stem}")
-def test_example_runs_on_the_simulator(path, capsys, tmp_path, monkeypatch):
-    monkeypatch.setattr(tempfile, "tempdir", str(tmp_path))  # what examples write stays here
+def test_example_runs_on_the_simulator(path, capsys, monkeypatch, tmp_path):
+    monkeypatch.setattr(tempfile, "tempdir", str(tmp_path))  # where loggers and plots go
     before = thread_ids()
     out = run_example(path, capsys)
     key = f"{path.parent.name}/{path.stem}"
+    assert path.stem in pyorv.EXAMPLE_CONSOLE_DICT.get(path.parent.name, []), \
+        f"{key} is not in the example catalogue"
     assert key in EXPECT, f"no expected output written down for {key}"
     assert re.search(EXPECT[key], out.out, re.M), out.out + out.err
     assert "Traceback" not in out.err, out.err

@@ -1,0 +1,26 @@
+"""Hello world on an Ethernet device: connect, ask the firmware who it is, close.
+
+The simulated KestrelDio answers by default; a real device by its address:
+
+    python examples/System_ETH/hello_world.py
+    python examples/System_ETH/hello_world.py --ip 192.168.1.110
+"""
+
+import pathlib
+import sys
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1]))  # the shared _target.py
+import _target  # noqa: E402
+import pyorv  # noqa: E402
+
+
+def main():
+    args = _target.parse(__doc__)
+    with _target.open_device(pyorv.KestrelDio, args) as dev:
+        model, *rest = dev.Sys_getDriverInfo()
+        print(f"Hello from a {dev._getDeviceName()} ({model}): driver info {'_'.join(rest)}")
+        print(f"serial number {dev.Sys_getSerialNumber()}")
+
+
+if __name__ == "__main__":
+    main()
